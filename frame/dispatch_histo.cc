@@ -1,0 +1,144 @@
+// Dispatch tables of MethodeCalculG, the historic engine: a shorter list of names, with
+// the same meaning as in the current engine. "BASE x TAUX" has no detachment variant here
+// and "INDEMNITE DIFFERENTIELLE" no _Nouv variant.
+#include "frame/dispatch.h"
+#include "orvalis/MethodeCalculG.h"
+
+namespace orvalis {
+
+namespace {
+
+using Prep = AppelPreparation<MethodeCalculG>;
+using Calc = AppelCalcul<MethodeCalculG>;
+
+const Ligne<Prep> kPreparation[] = {
+    {"COEFFICIENT_INDICE", "CalculCoefficientUtilisationIndice", nullptr},
+    {"COEFFICIENT_TRAITEMENT", "CalculCoefficientTraitement", nullptr},
+    {"NBRE_JOUR_PRESENCE", "CalculNombreJourPresence", nullptr},
+    {"NBRE_JOUR_DEMI_TRAITEMENT", "CalculNombreJourDemiTraitement", nullptr},
+    {"NBRE_JOUR_CPA", "CalculNombreJourCPA", nullptr},
+    {"NBRE_JOUR_CFA", "CalculNombreJourCFA", nullptr},
+    {"NBRE_JOUR_DETACHEMENT", "CalculNombreJourDetachement", nullptr},
+    {"NBRE_JOUR_DISPONIBILITE_OFFICE", "CalculNombreJourDispoOffice", nullptr},
+    {"NBRE_JOUR_FORMATION", "CalculNombreJourFormation", nullptr},
+    {"NBRE_JOUR_CONGEMATERNITE_TPSCOMPLET", "CalculNombreJourCongeMaternite", nullptr},
+    {"NBRE_JOUR_AUTREABSENCE", "CalculNombreJourAutresAbsences", nullptr},
+    {"SALAIRE_BASE_HS", "CalculSalaireBaseHS", nullptr},
+};
+
+const Ligne<Calc> kCalcul[] = {
+    {"ALLOCATION COMPLEMENTAIRE", "CalculRubrique_DemiTraitementIndiciaire", nullptr},
+    {"ALLOCATION COMPLEMENTAIRE BONIFICATION", "CalculRubrique_DemiTraitementBonification", nullptr},
+    {"ALLOCATION FORMATION", "CalculRubrique_AllocationFormation", nullptr},
+    {"ASSIETTE URSSAF APPRENTI", "none", SansEffet<Calc>},
+    {"BASE CDG/CNFPT REGIME GENERAL", "none", SansEffet<Calc>},
+    {"BASE CDG/CNFPT REGIME SPECIAL", "none", SansEffet<Calc>},
+    {"BASE PRORATISEE SELON NB JOURS / 30", "CalculRubrique_BaseProrata30", nullptr},
+    {"BASE PRORATISEE SELON NB JOURS / 30 (A DEDUIRE)", "CalculRubrique_BaseProrata30ADeduire", nullptr},
+    {"BASE URSSAF TOTALITE EXONEREE REGIME GENERAL", "none", SansEffet<Calc>},
+    {"BASE URSSAF TOTALITE EXONEREE REGIME SPECIAL", "none", SansEffet<Calc>},
+    {"BASE URSSAF TOTALITE REGIME GENERAL", "none", SansEffet<Calc>},
+    {"BASE URSSAF TOTALITE REGIME SPECIAL", "none", SansEffet<Calc>},
+    {"BASE URSSAF TRANCHE A REGIME GENERAL", "none", SansEffet<Calc>},
+    {"BASE URSSAF TRANCHE A REGIME SPECIAL", "none", SansEffet<Calc>},
+    {"BASE x POURCENTAGE SMIC", "CalculRubrique_BaseTauxSmic", nullptr},
+    {"BASE x TAUX", "CalculRubrique_BaseTaux", nullptr},
+    {"BASE x TAUX (CHOIX)", "CalculRubrique_BaseTauxChoix", nullptr},
+    {"BONIFICIATION INDICIAIRE", "CalculRubrique_BonificationIndiciaire", nullptr},
+    {"CFA", "CalculRubrique_CFA", nullptr},
+    {"CNRACL Rétroactive", "CalculRubrique_CnraclRetroactive", nullptr},
+    {"COMPLEMENT DIFFERENTIEL 35 H", "CalculRubrique_ComplementDifferentiel35H", nullptr},
+    {"CPA", "CalculRubrique_CPA", nullptr},
+    {"CREDIT MUNICIPAL", "CalculRubrique_CreditMunicipal", nullptr},
+    {"DEMI TRAITEMENT BONIFICATION", "CalculRubrique_DemiTraitementBonification", nullptr},
+    {"DEMI TRAITEMENT INDICIAIRE", "CalculRubrique_DemiTraitementIndiciaire", nullptr},
+    {"FONDS DE SOLIDARITE", "CalculRubrique_FondsSolidarite", nullptr},
+    {"GIPA", "CalculRubrique_Gipa", nullptr},
+    {"GREVE", "CalculRubrique_Greve", nullptr},
+    {"GREVE INDEMNITE RESIDENCE", "none", SansEffet<Calc>},
+    {"GREVE MOIS PRECEDENT", "CalculRubrique_Greve", nullptr},
+    {"GREVE TRAITEMENT", "none", SansEffet<Calc>},
+    {"HEURES COMPLEMENTAIRES DU MOIS", "CalculRubrique_HeuresComplementaires", nullptr},
+    {"HEURES COMPLEMENTAIRES DU MOIS PREC.", "CalculRubrique_HeuresComplementairesPrec", nullptr},
+    {"HEURES SUPP. < 14 HEURES DU MOIS", "CalculRubrique_HS_Moins14", nullptr},
+    {"HEURES SUPP. < 14 HEURES DU MOIS PREC.", "CalculRubrique_HS_Moins14Prec", nullptr},
+    {"HEURES SUPP. > 14 HEURES DU MOIS", "CalculRubrique_HS_Plus14", nullptr},
+    {"HEURES SUPP. > 14 HEURES DU MOIS PREC.", "CalculRubrique_HS_Plus14Prec", nullptr},
+    {"HEURES SUPP. FERIES > 14 HEURES DU MOIS", "CalculRubrique_HS_NuitFeriePlus14", nullptr},
+    {"HEURES SUPP. FERIES > 14 HEURES DU MOIS PREC.", "CalculRubrique_HS_NuitFeriePlus14Prec", nullptr},
+    {"HEURES SUPP. FERIES DU MOIS", "CalculRubrique_HS_Ferie", nullptr},
+    {"HEURES SUPP. FERIES DU MOIS PREC.", "CalculRubrique_HS_FeriePrec", nullptr},
+    {"HEURES SUPP. NUITS > 14 HEURES DU MOIS", "CalculRubrique_HS_NuitFeriePlus14", nullptr},
+    {"HEURES SUPP. NUITS > 14 HEURES DU MOIS PREC.", "CalculRubrique_HS_NuitFeriePlus14Prec", nullptr},
+    {"HEURES SUPP. NUITS DU MOIS", "CalculRubrique_HS_Nuit", nullptr},
+    {"HEURES SUPP. NUITS DU MOIS PREC.", "CalculRubrique_HS_NuitPrec", nullptr},
+    {"IAT", "CalculRubrique_Iat", nullptr},
+    {"INDEMNITE COORDINATION (IND RES)", "CalculRubrique_IndemniteCoordination", nullptr},
+    {"INDEMNITE DE FORMATION", "CalculRubrique_IndemniteFormation", nullptr},
+    {"INDEMNITE DE RESIDENCE", "CalculRubrique_IndemniteResidence", nullptr},
+    {"INDEMNITE DIFFERENTIELLE", "CalculRubrique_Indemnite_Differentielle", nullptr},
+    {"INDEMNITE KILOMETRIQUE", "CalculRubrique_IndemniteKilometrique", nullptr},
+    {"INDEMNITES JOURNALIERES", "CalculRubrique_Indemnites_journalieres", nullptr},
+    {"INDICE DE REFERENCE", "CalculRubrique_Indice_Reference", nullptr},
+    {"INDICE DE REFERENCE - CAS", "CalculRubrique_Indice_Reference_CAS", nullptr},
+    {"INDICE DE REFERENCE - CAS COMMUNAL", "CalculRubrique_Indice_Reference_CAS_Communal", nullptr},
+    {"MGEN", "CalculRubrique_Mgen", nullptr},
+    {"MGEN (-30 ans)", "CalculRubrique_Mgen", nullptr},
+    {"MONTANT FIXE", "CalculRubrique_MontantFixe", nullptr},
+    {"MONTANT FIXE ANNUEL", "CalculRubrique_MontantFixeAnnuel", nullptr},
+    {"MONTANT REFERENCE", "CalculRubrique_MontantReference", nullptr},
+    {"PRIME INFORMATIQUE", "CalculRubrique_PrimeInformatique", nullptr},
+    {"RAPPEL REDUCTION SUR HS", "CalculRubrique_RappelReductionHS", nullptr},
+    {"REDUCTION FILLON", "CalculRubrique_ReductionFillon", nullptr},
+    {"REDUCTION FILLON (> 19 AGENTS)", "CalculRubrique_ReductionFillon", nullptr},
+    {"REDUCTION SUR HS", "CalculRubrique_ReductionHS", nullptr},
+    {"RETENUE A LA SOURCE", "CalculRubrique_Retenue_a_la_source", nullptr},
+    {"RETENUE A LA SOURCE NOUVELLE METHODE", "CalculRubrique_Retenue_a_la_source_NouvelleMethode", nullptr},
+    {"SUJETIONS SPECIALES", "CalculRubrique_SujetionsSpeciales", nullptr},
+    {"SUPPLEMENT FAMILIAL", "CalculRubrique_SupplementFamilial", nullptr},
+    {"SUPPLEMENT FAMILIAL IC", "CalculRubrique_SupplementFamilialIC", nullptr},
+    {"TAXE SUR SALAIRE TAUX 1", "CalculRubrique_TaxeSalaire_Taux1", nullptr},
+    {"TAXE SUR SALAIRE TAUX 2", "CalculRubrique_TaxeSalaire_Taux2", nullptr},
+    {"TAXE SUR SALAIRE TAUX Z", "none", SansEffet<Calc>},
+    {"TRAITEMENT BASE PARTICULIER", "CalculRubrique_TraitementBaseParticulier", nullptr},
+    {"TRAITEMENT FORFAITAIRE ELUS", "CalculRubrique_TraitementForfaitaireElus", nullptr},
+    {"TRAITEMENT INDICIAIRE ELUS", "CalculRubrique_TraitementIndiciaireElus", nullptr},
+    {"TRAITEMENT INDICIAIRE ELUS MOIS", "CalculRubrique_TraitementIndiciaireElusMois", nullptr},
+    {"TRAITEMENT INDICIAIRE ELUS PRECEDENT", "CalculRubrique_TraitementIndiciaireElusPrecedent", nullptr},
+    {"TRAITEMENT INDICIAIRE ELUS PRECEDENT MOIS", "CalculRubrique_TraitementIndiciaireElusPrecedentMois", nullptr},
+    {"TRAITEMENT INDICIAIRE HEBDO MULTIPLE", "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple", nullptr},
+    {"TRAITEMENT INDICIAIRE MOIS", "CalculRubrique_TraitementIndiciaireMois", nullptr},
+    {"TRAITEMENT INDICIAIRE MOIS PRECEDENT", "CalculRubrique_TraitementIndiciaireMoisPrecedent", nullptr},
+};
+
+}  // namespace
+
+std::span<const Ligne<Prep>> TablePreparationHisto() { return kPreparation; }
+std::span<const Ligne<Calc>> TableCalculHisto() { return kCalcul; }
+
+bool MethodeCalculG::Appel_Methode_Preparation_Calcul_General(const std::string& sNomcalcul,
+                                                              VarCalculSalarie& InfosSalaries) {
+  return SousPiege([&] {
+    const auto* ligne = TrouveLigne(TablePreparationHisto(), sNomcalcul);
+    if (ligne == nullptr) return;
+    Prep a{*this, InfosSalaries};
+    Executer(*ligne, a);
+  });
+}
+
+bool MethodeCalculG::Appel_Methode_Calcul_General(const std::string& sNomcalcul,
+                                                  VarCalculSalarie& InfosSalaries,
+                                                  SalarieCalculRubrique& Rubrique,
+                                                  const RsRef& RsVarSalaries,
+                                                  const RsRef& RsVarSalariesHisto,
+                                                  const RsRef& RsSalariesHisto) {
+  const std::string nom = sNomcalcul;
+  return SousPiege([&] {
+    const auto* ligne = TrouveLigne(TableCalculHisto(), nom);
+    if (ligne == nullptr) return;
+    Calc a{*this, nom, InfosSalaries, Rubrique, RsVarSalaries, RsVarSalariesHisto, RsSalariesHisto};
+    Executer(*ligne, a);
+  });
+}
+
+}  // namespace orvalis

@@ -1,0 +1,300 @@
+// Handlers of MethodeCalculG_Nouv that have not landed yet.
+//
+// Each stands in for its handler so that the dispatch tables are whole: reaching one is a
+// fault, and the entry gives false. A handler that lands takes its body out of this file
+// and its name out of kEnAttente.
+#include "frame/en_attente.h"
+#include "orvalis/MethodeCalculG_Nouv.h"
+
+namespace orvalis {
+
+namespace {
+[[noreturn]] void EnAttente(const char* handler) {
+  Faute(std::string("not yet available: ") + handler);
+}
+}  // namespace
+
+const std::vector<std::string>& NomsEnAttente() {
+  static const std::vector<std::string> kEnAttente = {
+      "RechercheValeurBase",
+      "RechercheValeurCoefficient",
+      "RechercheValeurTauxSalarial",
+      "RechercheValeurTauxPatronal",
+      "iNbJoursReelsPeriode",
+      "CalculPrelevementALaSource_Assiette",
+      "CalculPrelevementALaSource_Taux",
+      "dMtIJImposable",
+      "dNetAPayerAvantPAS",
+      "dRechercheValeurCumulRappel",
+      "RechercheValeursListeCumul",
+      "CalculPrelevementALaSource_Tauxold",
+      "CalculCoefficientUtilisationIndice",
+      "CalculCoefficientUtilisationTauxElus",
+      "CalculCoefficientTraitement",
+      "CalculCoefficientTraitementEnFonctionOccupationPoste",
+      "CalculCoefficientDemiTraitement",
+      "CalculNombreJourPresence",
+      "CalculNombreJourPresenceMois",
+      "CalculNombreJourAutresAbsences",
+      "CalculNombreJourAutresAbsences_NouvelleGestion",
+      "CalculNombreJour_Situation",
+      "CalculNombreJourCarence",
+      "CalculNombreJourCarenceMois",
+      "CalculNombreJourCarence_Situation",
+      "CalculRubrique_BaseTaux",
+      "CalculRubrique_BaseTaux_Detachement",
+      "CalculRubrique_BaseDivTaux",
+      "CalculTauxHoraireMoisEnCours",
+      "CalculTauxHoraireMoisPrec",
+      "CalculRubrique_Retenue_a_la_source",
+      "CalculRubrique_TaxeSalaire_Taux1",
+      "CalculRubrique_TaxeSalaire_Taux2",
+      "CalculRubrique_Indemnites_journalieres",
+      "Calcul_Indemnites_journalieres",
+      "Calcul_Indemnites_Journalieres_NouvelleMethode",
+      "CalculRubrique_Indemnite_Differentielle",
+      "CalculRubrique_Indemnite_Differentielle_Nouv",
+      "CalculRubrique_Indemnite_Differentielle_Mayotte",
+      "CalculRubrique_Indice_Reference",
+      "CalculRubrique_Indice_Reference_CAS",
+      "CalculRubrique_Indice_Reference_CAS_Communal",
+      "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
+      "dMontantProratiseSuivantDemiTraitement",
+      "CalculRubrique_Gipa",
+      "dMontantGIPA",
+      "CalculRubrique_BaseTauxChoix",
+      "CalculRubrique_BaseTauxSmic",
+      "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
+      "bDeclenchementComplementTauxCotisations",
+      "CalculRubrique_Indemnite_transport_Corse",
+      "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
+      "CalculRubrique_Traitement_Indiciaire_Journalier",
+      "CalculRubrique_Imposition_a_la_source_Frontalier",
+      "CalculRechercheJourDebutEtJourFin",
+      "CalculPrelevementALaSource_CasParticulierElu",
+      "CalculRubrique_MontantFixe",
+      "CalculRubrique_MontantFixeAnnuel",
+      "CalculRubrique_TraitementHoraireMois",
+      "CalculRubrique_TraitementIndiciaireMois",
+      "CalculRubrique_TraitementIndiciaireMoisPrecedent",
+      "CalculRubrique_TraitementIndiciaireElus",
+      "CalculRubrique_TraitementForfaitaireElus",
+      "CalculRubrique_DemiTraitementIndiciaire",
+      "CalculRubrique_AllocationComplementaireMaladie",
+      "CalculRubrique_AllocationComplementaireMaladieNbi",
+      "CalculRubrique_BonificationIndiciaire",
+      "CalculRubrique_DemiTraitementBonification",
+      "CalculRubrique_IndemniteResidence",
+      "CalculRubrique_IndemniteCoordination",
+      "CalculRubrique_SupplementFamilial",
+      "CalculRubrique_CPA",
+      "CalculRubrique_CFA",
+      "CalculRubrique_HeuresComplementaires",
+      "CalculRubrique_HeuresComplementairesPrec",
+      "CalculRubrique_HS_Moins14",
+      "CalculRubrique_HS_Moins14Prec",
+      "CalculRubrique_HS_Plus14",
+      "CalculRubrique_HS_Plus14Prec",
+      "CalculRubrique_HS_Nuit",
+      "CalculRubrique_HS_NuitPrec",
+      "CalculRubrique_HS_NuitFeriePlus14",
+      "CalculRubrique_HS_NuitFeriePlus14Prec",
+      "CalculRubrique_HS_Ferie",
+      "CalculRubrique_HS_FeriePrec",
+      "CalculRubrique_PrimeInformatique",
+      "CalculRubrique_FondsSolidarite",
+      "CalculRubrique_CreditMunicipal",
+      "CalculRubrique_CnraclRetroactive",
+      "CalculRubrique_Greve",
+      "CalculRubrique_ComplementDifferentiel35H",
+      "CalculRubrique_Iat",
+      "CalculRubrique_IndemniteKilometrique",
+      "CalculRubrique_SujetionsSpeciales",
+      "CalculRubrique_BaseProrata30ADeduire",
+      "CalculRubrique_BaseProrata30",
+      "CalculRubrique_Mgen",
+      "CalculRubrique_SupplementFamilialIC",
+      "CalculRubrique_ReductionHS",
+      "CalculRubrique_RappelReductionHS",
+      "CalculRubrique_TraitementIndiciaireElusPrecedent",
+      "CalculRubrique_TraitementBaseParticulier",
+      "CalculRubrique_AllocationFormation",
+      "CalculRubrique_ReductionFillon",
+      "CalculRubrique_TraitementIndiciaireElusMois",
+      "CalculRubrique_TraitementForfaitaireElusMois",
+      "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
+      "CalculRubrique_IndemniteFormation",
+      "CalculRubrique_MontantReference",
+      "CalculRubrique_ReversementSFT",
+      "CalculRubrique_TraitementJournalierSmic",
+      "CalculRubrique_Irf",
+      "CalculRubrique_Ipf",
+      "CalculRubrique_Ifse",
+      "CalculRubrique_Cia",
+      "CalculRubrique_TraitementIndiciaireElusEcrete",
+      "CalculRubrique_ExonerationZrr",
+      "CalculRubrique_MaintienSalaireHoraire",
+      "CalculRubrique_MaintienSalaire",
+      "CalculRubrique_CongesPayes",
+      "CalculRubrique_TptNonSubroge",
+      "CalculRubrique_Carence",
+      "CalculRubrique_CompensationHausseCsg",
+      "CalculRubrique_RetenueCongesPayes",
+      "CalculRubrique_ArbitrageCongesPayes",
+      "CalculRubrique_Degressivite",
+      "CalculRubrique_ReductionCsgChomage",
+      "CalculSalaireBaseHS",
+      "CalculNombreJourDemiTraitement_NouvelleGestion",
+      "CalculNombreJourCPA_NouvelleGestion",
+      "CalculNombreJourCFA_NouvelleGestion",
+      "CalculNombreJourDetachement_NouvelleGestion",
+      "CalculNombreJourDispoOffice_NouvelleGestion",
+      "CalculNombreJourFormation_NouvelleGestion",
+      "CalculNombreJourCongeMaternite_NouvelleGestion",
+      "CalculNombreJourDetachementSansPension_NouvelleGestion",
+      "CalculNombreJourMaintienTraitement",
+      "CalculNombreJourTptNonSubroge",
+  };
+  return kEnAttente;
+}
+
+double MethodeCalculG_Nouv::RechercheValeurBase(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("RechercheValeurBase"); }
+double MethodeCalculG_Nouv::RechercheValeurCoefficient(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, Int32 /*lIdCoeffBase*/, const std::string& /*sCoeffBase*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("RechercheValeurCoefficient"); }
+double MethodeCalculG_Nouv::RechercheValeurTauxSalarial(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, std::string& /*sType*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("RechercheValeurTauxSalarial"); }
+double MethodeCalculG_Nouv::RechercheValeurTauxPatronal(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, std::string& /*sType*/, const std::string& /*sDesignation*/) { EnAttente("RechercheValeurTauxPatronal"); }
+Int16 MethodeCalculG_Nouv::iNbJoursReelsPeriode(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriode*/) { EnAttente("iNbJoursReelsPeriode"); }
+double MethodeCalculG_Nouv::CalculPrelevementALaSource_Assiette(VarCalculSalarie& /*InfosSalaries*/, double& /*dBase*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculPrelevementALaSource_Assiette"); }
+double MethodeCalculG_Nouv::CalculPrelevementALaSource_Taux(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculPrelevementALaSource_Taux"); }
+double MethodeCalculG_Nouv::dMtIJImposable(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("dMtIJImposable"); }
+double MethodeCalculG_Nouv::dNetAPayerAvantPAS(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("dNetAPayerAvantPAS"); }
+double MethodeCalculG_Nouv::dRechercheValeurCumulRappel(const std::string& /*sCode*/, const std::string& /*sType*/) { EnAttente("dRechercheValeurCumulRappel"); }
+void MethodeCalculG_Nouv::RechercheValeursListeCumul(const std::string& /*sListeCode*/, double& /*dValSal*/, double& /*dValPat*/) { EnAttente("RechercheValeursListeCumul"); }
+double MethodeCalculG_Nouv::CalculPrelevementALaSource_Tauxold(VarCalculSalarie& /*InfosSalaries*/, double& /*dBase*/, std::string& /*sDesignationRubrique*/) { EnAttente("CalculPrelevementALaSource_Tauxold"); }
+void MethodeCalculG_Nouv::CalculCoefficientUtilisationIndice(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculCoefficientUtilisationIndice"); }
+void MethodeCalculG_Nouv::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriode*/) { EnAttente("CalculCoefficientUtilisationTauxElus"); }
+void MethodeCalculG_Nouv::CalculCoefficientTraitement(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculCoefficientTraitement"); }
+void MethodeCalculG_Nouv::CalculCoefficientTraitementEnFonctionOccupationPoste(VarCalculSalarie& /*InfosSalaries*/, bool /*bMoisEnCours*/, double& /*dCoefficientTraitement*/, double& /*dCoefficientTraitementTNCAvantTP*/, double& /*dCoefficientTraitementSiTNC*/) { EnAttente("CalculCoefficientTraitementEnFonctionOccupationPoste"); }
+void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sType*/) { EnAttente("CalculCoefficientDemiTraitement"); }
+void MethodeCalculG_Nouv::CalculNombreJourPresence(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriode*/) { EnAttente("CalculNombreJourPresence"); }
+void MethodeCalculG_Nouv::CalculNombreJourPresenceMois(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriodeEnCours*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJourPresenceMois"); }
+void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourAutresAbsences"); }
+void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourAutresAbsences_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJour_Situation(const std::string& /*sSituation*/, const std::string& /*sDateDeb_Situation*/, const std::string& /*sDateFin_Situation*/, VarCalculSalarie& /*InfosSalaries*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJour_Situation"); }
+void MethodeCalculG_Nouv::CalculNombreJourCarence(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sDateDebutCarence*/, const std::string& /*sDateFinCarence*/, const std::string& /*sPeriode*/) { EnAttente("CalculNombreJourCarence"); }
+void MethodeCalculG_Nouv::CalculNombreJourCarenceMois(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriodeEnCours*/, const std::string& /*sDateDebutCarence*/, const std::string& /*sDateFinCarence*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJourCarenceMois"); }
+void MethodeCalculG_Nouv::CalculNombreJourCarence_Situation(const std::string& /*sSituation*/, const std::string& /*sDateDeb_Situation*/, const std::string& /*sDateFin_Situation*/, VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sDateDebutCarence*/, const std::string& /*sDateFinCarence*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJourCarence_Situation"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseTaux(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTaux"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTaux_Detachement"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseDivTaux(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseDivTaux"); }
+void MethodeCalculG_Nouv::CalculTauxHoraireMoisEnCours(double /*dCoeffMajoration*/, VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, double& /*dValeur*/, std::string& /*sType*/) { EnAttente("CalculTauxHoraireMoisEnCours"); }
+void MethodeCalculG_Nouv::CalculTauxHoraireMoisPrec(double /*dCoeffMajoration*/, VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, double& /*dValeur*/, std::string& /*sType*/) { EnAttente("CalculTauxHoraireMoisPrec"); }
+void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
+void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
+void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("CalculRubrique_Indemnites_journalieres"); }
+void MethodeCalculG_Nouv::Calcul_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("Calcul_Indemnites_journalieres"); }
+void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("Calcul_Indemnites_Journalieres_NouvelleMethode"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_Differentielle"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Nouv"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Mayotte"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_Indice_Reference"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indice_Reference_CAS"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indice_Reference_CAS_Communal"); }
+void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple"); }
+std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, double /*dMntInitial*/) { EnAttente("dMontantProratiseSuivantDemiTraitement"); }
+void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Gipa"); }
+std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& /*InfosSalaries*/, double /*dIM_Debut*/, double /*dPoint_Debut*/, double /*dIM_Fin*/, double /*dPoint_Fin*/, double /*dTauxInflation*/, double /*dHrsHebdo*/, double /*dTauxTempsPartiel*/) { EnAttente("dMontantGIPA"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTauxChoix"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseTauxSmic(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTauxSmic"); }
+void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(VarCalculSalarie& /*InfosSalaries*/, double& /*dMtFillonDejaCotise*/, bool /*bCalculFillon*/, bool /*bCalculMSA*/) { EnAttente("RechercheDonneesPourCalculExonerationAllocFamOuFillon"); }
+bool MethodeCalculG_Nouv::bDeclenchementComplementTauxCotisations(VarCalculSalarie& /*InfosSalaries*/, bool /*blnMsa*/) { EnAttente("bDeclenchementComplementTauxCotisations"); }
+void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
+void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
+void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
+void MethodeCalculG_Nouv::CalculRubrique_Imposition_a_la_source_Frontalier(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Imposition_a_la_source_Frontalier"); }
+void MethodeCalculG_Nouv::CalculRechercheJourDebutEtJourFin(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriodeEnCours*/, std::string& /*sDernierJourMois*/, Int16& /*iJourDeb*/, Int16& /*iJourFin*/) { EnAttente("CalculRechercheJourDebutEtJourFin"); }
+double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculPrelevementALaSource_CasParticulierElu"); }
+void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_MontantFixe"); }
+void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_MontantFixeAnnuel"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementHoraireMois(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementHoraireMois"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMois"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMoisPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMoisPrecedent"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElus"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElus"); }
+void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementIndiciaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_DemiTraitementIndiciaire"); }
+void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladie(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationComplementaireMaladie"); }
+void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladieNbi(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationComplementaireMaladieNbi"); }
+void MethodeCalculG_Nouv::CalculRubrique_BonificationIndiciaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_BonificationIndiciaire"); }
+void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementBonification(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_DemiTraitementBonification"); }
+void MethodeCalculG_Nouv::CalculRubrique_IndemniteResidence(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteResidence"); }
+void MethodeCalculG_Nouv::CalculRubrique_IndemniteCoordination(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_IndemniteCoordination"); }
+void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SupplementFamilial"); }
+void MethodeCalculG_Nouv::CalculRubrique_CPA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CPA"); }
+void MethodeCalculG_Nouv::CalculRubrique_CFA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CFA"); }
+void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementaires(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HeuresComplementaires"); }
+void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HeuresComplementairesPrec"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Moins14"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_Moins14Prec"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Plus14"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_Plus14Prec"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_Nuit(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Nuit"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_NuitPrec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_NuitPrec"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_HS_NuitFeriePlus14"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_HS_NuitFeriePlus14Prec"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_Ferie(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Ferie"); }
+void MethodeCalculG_Nouv::CalculRubrique_HS_FeriePrec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_FeriePrec"); }
+void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_PrimeInformatique"); }
+void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_FondsSolidarite"); }
+void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_CreditMunicipal"); }
+void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_CnraclRetroactive"); }
+void MethodeCalculG_Nouv::CalculRubrique_Greve(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_Greve"); }
+void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ComplementDifferentiel35H"); }
+void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Iat"); }
+void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteKilometrique"); }
+void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SujetionsSpeciales"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseProrata30ADeduire"); }
+void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseProrata30"); }
+void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, bool /*bOption*/) { EnAttente("CalculRubrique_Mgen"); }
+void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilialIC(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_SupplementFamilialIC"); }
+void MethodeCalculG_Nouv::CalculRubrique_ReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ReductionHS"); }
+void MethodeCalculG_Nouv::CalculRubrique_RappelReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_RappelReductionHS"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedent"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementBaseParticulier"); }
+void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationFormation"); }
+void MethodeCalculG_Nouv::CalculRubrique_ReductionFillon(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_ReductionFillon"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusMois"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElusMois"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedentMois"); }
+void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteFormation"); }
+void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_MontantReference"); }
+void MethodeCalculG_Nouv::CalculRubrique_ReversementSFT(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ReversementSFT"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementJournalierSmic(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementJournalierSmic"); }
+void MethodeCalculG_Nouv::CalculRubrique_Irf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Irf"); }
+void MethodeCalculG_Nouv::CalculRubrique_Ipf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ipf"); }
+void MethodeCalculG_Nouv::CalculRubrique_Ifse(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ifse"); }
+void MethodeCalculG_Nouv::CalculRubrique_Cia(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Cia"); }
+void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusEcrete"); }
+void MethodeCalculG_Nouv::CalculRubrique_ExonerationZrr(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ExonerationZrr"); }
+void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaireHoraire"); }
+void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaire"); }
+void MethodeCalculG_Nouv::CalculRubrique_CongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CongesPayes"); }
+void MethodeCalculG_Nouv::CalculRubrique_TptNonSubroge(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16& /*iTauxTptNonSubroge*/) { EnAttente("CalculRubrique_TptNonSubroge"); }
+void MethodeCalculG_Nouv::CalculRubrique_Carence(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_Carence"); }
+void MethodeCalculG_Nouv::CalculRubrique_CompensationHausseCsg(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CompensationHausseCsg"); }
+void MethodeCalculG_Nouv::CalculRubrique_RetenueCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_RetenueCongesPayes"); }
+void MethodeCalculG_Nouv::CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ArbitrageCongesPayes"); }
+void MethodeCalculG_Nouv::CalculRubrique_Degressivite(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Degressivite"); }
+void MethodeCalculG_Nouv::CalculRubrique_ReductionCsgChomage(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sCode*/) { EnAttente("CalculRubrique_ReductionCsgChomage"); }
+void MethodeCalculG_Nouv::CalculSalaireBaseHS(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculSalaireBaseHS"); }
+void MethodeCalculG_Nouv::CalculNombreJourDemiTraitement_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDemiTraitement_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourCPA_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourCPA_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourCFA_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourCFA_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourDetachement_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDetachement_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourDispoOffice_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDispoOffice_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourFormation_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourFormation_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourCongeMaternite_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourCongeMaternite_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourDetachementSansPension_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDetachementSansPension_NouvelleGestion"); }
+void MethodeCalculG_Nouv::CalculNombreJourMaintienTraitement(VarCalculSalarie& /*InfosSalaries*/, Int16 /*iPourcentage*/) { EnAttente("CalculNombreJourMaintienTraitement"); }
+void MethodeCalculG_Nouv::CalculNombreJourTptNonSubroge(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourTptNonSubroge"); }
+
+}  // namespace orvalis

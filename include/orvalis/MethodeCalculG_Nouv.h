@@ -1,0 +1,416 @@
+// MethodeCalculG_Nouv: the calculation engine.
+//
+// The host sets the tabular properties and gPeriodeEncours, fills a VarCalculSalarie, calls
+// the preparation entry for each preparation name the month needs, then the calculation
+// entry once per pay line with its SalarieCalculRubrique. Both entries select the work by
+// its literal French name, exactly and case-sensitively; an unknown name does nothing and
+// gives true. Every fault below an entry is trapped there: the entry gives false and the
+// records keep what was written before the fault.
+#ifndef ORVALIS_METHODECALCULG_NOUV_H_
+#define ORVALIS_METHODECALCULG_NOUV_H_
+
+#include <optional>
+#include <string>
+
+#include "orvalis/MoteurCalcul.h"
+
+namespace orvalis {
+
+class MethodeCalculG_Nouv : public MoteurCalcul {
+ public:
+  MethodeCalculG_Nouv() = default;
+
+  RsRef gRsConstantesHistorique;  // constants by month
+  RsRef gRsBaremeTauxPAS;         // neutral-rate scale of the tax at source
+
+  // ---- Entry points --------------------------------------------------------------------
+  // Runs one period preparation named sNomcalcul into InfosSalaries.
+  bool Appel_Methode_Preparation_Calcul_General(const std::string& sNomcalcul,
+                                                VarCalculSalarie& InfosSalaries);
+  // Computes one pay line named sNomcalcul into Rubrique (and, for a few names, into
+  // InfosSalaries or a detail table). The three sources may be left out (null) for the
+  // names that do not read them.
+  bool Appel_Methode_Calcul_General(const std::string& sNomcalcul, VarCalculSalarie& InfosSalaries,
+                                    SalarieCalculRubrique& Rubrique,
+                                    const RsRef& RsVarSalaries = nullptr,
+                                    const RsRef& RsVarSalariesHisto = nullptr,
+                                    const RsRef& RsSalariesHisto = nullptr);
+
+  // ---- Lookups of this engine ----------------------------------------------------------
+  // The back-pay columns of a total: PartSalarialeRappel for "S", else PartPatronaleRappel.
+  double dRechercheValeurCumulRappel(const std::string& sCode, const std::string& sType);
+  // Sums PartSalariale and PartPatronale of the totals of a comma-separated list of codes.
+  void RechercheValeursListeCumul(const std::string& sListeCode, double& dValSal, double& dValPat);
+
+  // Kept in the interface: does nothing, and no name reaches it.
+  void CalculRubrique_Prelevement_a_la_source(VarCalculSalarie& InfosSalaries,
+                                              SalarieCalculRubrique& Rubrique,
+                                              const RsRef& RsVariablesSalaries);
+
+  // ---- Resolvers of the generic pay lines (generic/) -------------------------------------
+  double RechercheValeurBase(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             SalarieCalculRubrique& Rubrique);
+  double RechercheValeurCoefficient(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    Int32 lIdCoeffBase, const std::string& sCoeffBase,
+                                    SalarieCalculRubrique& Rubrique);
+  double RechercheValeurTauxSalarial(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     const RsRef& RsVarSalariesHisto,
+                                     SalarieCalculRubrique& Rubrique, std::string& sType,
+                                     const RsRef& RsSalariesHisto);
+  double RechercheValeurTauxPatronal(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     SalarieCalculRubrique& Rubrique, std::string& sType,
+                                     const std::string& sDesignation);
+  // ---- Generic pay lines (generic/) ------------------------------------------------------
+  void CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                               const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& InfosSalaries,
+                                           const RsRef& RsVarSalaries,
+                                           const RsRef& RsVarSalariesHisto,
+                                           SalarieCalculRubrique& Rubrique,
+                                           const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseDivTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                  const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsSalariesHisto);
+  void CalculTauxHoraireMoisEnCours(double dCoeffMajoration, VarCalculSalarie& InfosSalaries,
+                                    const RsRef& RsVarSalaries, double& dValeur,
+                                    std::string& sType);
+  void CalculTauxHoraireMoisPrec(double dCoeffMajoration, VarCalculSalarie& InfosSalaries,
+                                 const RsRef& RsVarSalariesHisto, const RsRef& RsSalariesHisto,
+                                 double& dValeur, std::string& sType);
+  void CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                       const RsRef& RsVarSalariesHisto,
+                                       SalarieCalculRubrique& Rubrique,
+                                       const RsRef& RsSalariesHisto);
+  void CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
+                                           const RsRef& RsVarSalaries,
+                                           const RsRef& RsVarSalariesHisto,
+                                           SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& InfosSalaries,
+                                                    const RsRef& RsVarSalaries,
+                                                    const RsRef& RsVarSalariesHisto,
+                                                    SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                   const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsSalariesHisto);
+  void CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                  const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsSalariesHisto);
+  void CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
+                                            const RsRef& RsVarSalaries,
+                                            const RsRef& RsVarSalariesHisto,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
+
+  // ---- Period preparation (period/) ------------------------------------------------------
+  Int16 iNbJoursReelsPeriode(VarCalculSalarie& InfosSalaries, const std::string& sPeriode);
+  void CalculCoefficientUtilisationIndice(VarCalculSalarie& InfosSalaries);
+  void CalculCoefficientTraitement(VarCalculSalarie& InfosSalaries);
+  void CalculCoefficientTraitementEnFonctionOccupationPoste(VarCalculSalarie& InfosSalaries,
+                                                            bool bMoisEnCours,
+                                                            double& dCoefficientTraitement,
+                                                            double& dCoefficientTraitementTNCAvantTP,
+                                                            double& dCoefficientTraitementSiTNC);
+  void CalculNombreJourPresence(VarCalculSalarie& InfosSalaries, const std::string& sPeriode);
+  void CalculNombreJourPresenceMois(VarCalculSalarie& InfosSalaries,
+                                    const std::string& sPeriodeEnCours, Int16& iNbj_IATA,
+                                    Int16& iNbj_IATN, Int16& iNbj_INTA, Int16& iNbj_INTN);
+  void CalculNombreJourAutresAbsences(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourAutresAbsences_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJour_Situation(const std::string& sSituation,
+                                  const std::string& sDateDeb_Situation,
+                                  const std::string& sDateFin_Situation,
+                                  VarCalculSalarie& InfosSalaries, Int16& iNbj_IATA,
+                                  Int16& iNbj_IATN, Int16& iNbj_INTA, Int16& iNbj_INTN);
+  void CalculNombreJourCarence(VarCalculSalarie& InfosSalaries,
+                               const std::string& sDateDebutCarence,
+                               const std::string& sDateFinCarence, const std::string& sPeriode);
+  void CalculNombreJourCarenceMois(VarCalculSalarie& InfosSalaries,
+                                   const std::string& sPeriodeEnCours,
+                                   const std::string& sDateDebutCarence,
+                                   const std::string& sDateFinCarence, Int16& iNbj_IATA,
+                                   Int16& iNbj_IATN, Int16& iNbj_INTA, Int16& iNbj_INTN);
+  void CalculNombreJourCarence_Situation(const std::string& sSituation,
+                                         const std::string& sDateDeb_Situation,
+                                         const std::string& sDateFin_Situation,
+                                         VarCalculSalarie& InfosSalaries,
+                                         const std::string& sDateDebutCarence,
+                                         const std::string& sDateFinCarence, Int16& iNbj_IATA,
+                                         Int16& iNbj_IATN, Int16& iNbj_INTA, Int16& iNbj_INTN);
+  void CalculRechercheJourDebutEtJourFin(VarCalculSalarie& InfosSalaries,
+                                         const std::string& sPeriodeEnCours,
+                                         std::string& sDernierJourMois, Int16& iJourDeb,
+                                         Int16& iJourFin);
+  void CalculSalaireBaseHS(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDemiTraitement_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCPA_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCFA_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDetachement_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDispoOffice_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourFormation_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCongeMaternite_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDetachementSansPension_NouvelleGestion(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourMaintienTraitement(VarCalculSalarie& InfosSalaries, Int16 iPourcentage);
+  void CalculNombreJourTptNonSubroge(VarCalculSalarie& InfosSalaries);
+
+  // ---- Tax at source (contributions/) ----------------------------------------------------
+  double CalculPrelevementALaSource_Assiette(VarCalculSalarie& InfosSalaries, double& dBase,
+                                             SalarieCalculRubrique& Rubrique);
+  double CalculPrelevementALaSource_Taux(VarCalculSalarie& InfosSalaries);
+  double dMtIJImposable(VarCalculSalarie& InfosSalaries);
+  double dNetAPayerAvantPAS(VarCalculSalarie& InfosSalaries);
+  double CalculPrelevementALaSource_Tauxold(VarCalculSalarie& InfosSalaries, double& dBase,
+                                            std::string& sDesignationRubrique);
+  void CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
+                                          SalarieCalculRubrique& Rubrique,
+                                          const RsRef& RsVariablesSalaries);
+  void CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& InfosSalaries,
+                                                          SalarieCalculRubrique& Rubrique,
+                                                          const RsRef& RsVariablesSalaries);
+  void CalculRubrique_Imposition_a_la_source_Frontalier(VarCalculSalarie& InfosSalaries,
+                                                        SalarieCalculRubrique& Rubrique,
+                                                        const RsRef& RsVariablesSalaries);
+  double CalculPrelevementALaSource_CasParticulierElu(VarCalculSalarie& InfosSalaries,
+                                                      SalarieCalculRubrique& Rubrique);
+
+  // ---- Salary elements (salary/) ---------------------------------------------------------
+  void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
+                                            const std::string& sPeriode);
+  void CalculCoefficientDemiTraitement(VarCalculSalarie& InfosSalaries, const std::string& sType);
+  void CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& InfosSalaries,
+                                                           SalarieCalculRubrique& Rubrique);
+  std::optional<double> dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& InfosSalaries,
+                                                               double dMntInitial);
+  void CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& InfosSalaries,
+                                                const RsRef& RsVarSalaries,
+                                                SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& InfosSalaries,
+                                                       const RsRef& RsVarSalaries,
+                                                       const RsRef& RsVarSalariesHisto,
+                                                       SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementHoraireMois(VarCalculSalarie& InfosSalaries,
+                                            const RsRef& RsVarSalaries,
+                                            SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireMoisPrecedent(VarCalculSalarie& InfosSalaries,
+                                                        SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_DemiTraitementIndiciaire(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique,
+                                               const std::string& sVariante);
+  void CalculRubrique_AllocationComplementaireMaladie(VarCalculSalarie& InfosSalaries,
+                                                      SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_AllocationComplementaireMaladieNbi(VarCalculSalarie& InfosSalaries,
+                                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_BonificationIndiciaire(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_DemiTraitementBonification(VarCalculSalarie& InfosSalaries,
+                                                 SalarieCalculRubrique& Rubrique,
+                                                 const std::string& sVariante);
+  void CalculRubrique_IndemniteResidence(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_IndemniteCoordination(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const std::string& sVariante);
+  void CalculRubrique_SupplementFamilial(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_CPA(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_CFA(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const RsRef& RsVarSalaries);
+  void CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                 const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
+                                     SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                     const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                              const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique,
+                                         const RsRef& RsVarSalaries, const std::string& sNomcalcul);
+  void CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique,
+                                             const RsRef& RsVarSalaries,
+                                             const RsRef& RsVarSalariesHisto,
+                                             const std::string& sNomcalcul);
+  void CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_PrimeInformatique(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsVarSalaries);
+  void CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_CreditMunicipal(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
+  void CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsVarSalaries);
+  void CalculRubrique_Iat(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries);
+  void CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                           const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
+                           const RsRef& RsSalariesHisto, bool bOption);
+  void CalculRubrique_SupplementFamilialIC(VarCalculSalarie& InfosSalaries,
+                                           SalarieCalculRubrique& Rubrique,
+                                           const std::string& sVariante);
+  void CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& InfosSalaries,
+                                                        SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& InfosSalaries,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& RsVarSalariesHisto,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsSalariesHisto);
+  void CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
+                                          const RsRef& RsVarSalaries,
+                                          SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& InfosSalaries,
+                                                   SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& InfosSalaries,
+                                                    SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& InfosSalaries,
+                                                            SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
+                                         const RsRef& RsVarSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_MontantReference(VarCalculSalarie& InfosSalaries,
+                                       SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
+  void CalculRubrique_ReversementSFT(VarCalculSalarie& InfosSalaries,
+                                     SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementJournalierSmic(VarCalculSalarie& InfosSalaries,
+                                               const RsRef& RsVarSalaries,
+                                               const RsRef& RsVarSalariesHisto,
+                                               SalarieCalculRubrique& Rubrique,
+                                               const RsRef& RsSalariesHisto);
+  void CalculRubrique_Irf(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries);
+  void CalculRubrique_Ipf(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries);
+  void CalculRubrique_Ifse(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                           const RsRef& RsVarSalaries);
+  void CalculRubrique_Cia(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries);
+  void CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& InfosSalaries,
+                                                     SalarieCalculRubrique& Rubrique);
+
+  // ---- Absences and replacement income (absences/) ---------------------------------------
+  void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
+                                              SalarieCalculRubrique& Rubrique,
+                                              const RsRef& RsSalariesHisto, bool bIJSubrogees);
+  void Calcul_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique,
+                                      const RsRef& RsSalariesHisto);
+  void Calcul_Indemnites_Journalieres_NouvelleMethode(VarCalculSalarie& InfosSalaries,
+                                                      SalarieCalculRubrique& Rubrique,
+                                                      const RsRef& RsSalariesHisto,
+                                                      bool bIJSubrogees);
+  void CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Indemnite_Differentielle_Nouv(VarCalculSalarie& InfosSalaries,
+                                                    SalarieCalculRubrique& Rubrique,
+                                                    const RsRef& RsVarSalaries);
+  void CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& InfosSalaries,
+                                                       SalarieCalculRubrique& Rubrique,
+                                                       const RsRef& RsVarSalaries);
+  void CalculRubrique_Greve(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                            const RsRef& RsVarSalaries, const std::string& sVariante,
+                            const RsRef& RsSalariesHisto, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie& InfosSalaries,
+                                             const RsRef& RsVarSalaries,
+                                             SalarieCalculRubrique& Rubrique, Int16 iPourcentage);
+  void CalculRubrique_MaintienSalaire(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique, Int16 iPourcentage);
+  void CalculRubrique_CongesPayes(VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
+                                  SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TptNonSubroge(VarCalculSalarie& InfosSalaries,
+                                    SalarieCalculRubrique& Rubrique, Int16& iTauxTptNonSubroge);
+  void CalculRubrique_Carence(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                              const std::string& sVariante, const RsRef& RsSalariesHisto);
+  void CalculRubrique_RetenueCongesPayes(VarCalculSalarie& InfosSalaries,
+                                         const RsRef& RsVarSalaries, const RsRef& RsSalariesHisto,
+                                         const RsRef& RsVarSalariesHisto,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& InfosSalaries,
+                                           const RsRef& RsVarSalaries, const RsRef& RsSalariesHisto,
+                                           const RsRef& RsVarSalariesHisto,
+                                           SalarieCalculRubrique& Rubrique);
+
+  // ---- Contributions and reductions (contributions/) -------------------------------------
+  void CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_Gipa(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
+  std::optional<double> dMontantGIPA(VarCalculSalarie& InfosSalaries, double dIM_Debut,
+                                     double dPoint_Debut, double dIM_Fin, double dPoint_Fin,
+                                     double dTauxInflation, double dHrsHebdo,
+                                     double dTauxTempsPartiel);
+  void RechercheDonneesPourCalculExonerationAllocFamOuFillon(VarCalculSalarie& InfosSalaries,
+                                                             double& dMtFillonDejaCotise,
+                                                             bool bCalculFillon, bool bCalculMSA);
+  bool bDeclenchementComplementTauxCotisations(VarCalculSalarie& InfosSalaries, bool blnMsa);
+  void CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_ReductionHS(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsVarSalaries);
+  void CalculRubrique_RappelReductionHS(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_ReductionFillon(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique,
+                                      const std::string& sNomcalcul);
+  void CalculRubrique_ExonerationZrr(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_CompensationHausseCsg(VarCalculSalarie& InfosSalaries,
+                                            const RsRef& RsVarSalaries,
+                                            const RsRef& RsVarSalariesHisto,
+                                            SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Degressivite(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                   const RsRef& RsSalariesHisto, const RsRef& RsVarSalariesHisto,
+                                   SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_ReductionCsgChomage(VarCalculSalarie& InfosSalaries,
+                                          SalarieCalculRubrique& Rubrique,
+                                          const std::string& sCode);
+};
+
+}  // namespace orvalis
+
+#endif  // ORVALIS_METHODECALCULG_NOUV_H_

@@ -1,0 +1,113 @@
+// The frame shared by both engine classes: the public tabular properties, the lookups of
+// reference data, the message box and the fault trap of the entry points.
+//
+// An engine object runs on its caller's thread, one call at a time. Lookups change the
+// filter and position of the source they read, so a source serves one calculation at once.
+#ifndef ORVALIS_MOTEURCALCUL_H_
+#define ORVALIS_MOTEURCALCUL_H_
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "orvalis/Recordset.h"
+#include "orvalis/SalarieCalculRubrique.h"
+#include "orvalis/VarCalculSalarie.h"
+#include "orvalis/numeric.h"
+
+namespace orvalis {
+
+// The process-wide percentage of the therapeutic part-time situation last met by the
+// preparation "NBRE_JOUR_TPT_NON_SUBROGE". Starts at 0.
+extern Int16 iTauxTptNonSubroge;
+
+class MoteurCalcul {
+ public:
+  MoteurCalcul(const MoteurCalcul&) = delete;
+  MoteurCalcul& operator=(const MoteurCalcul&) = delete;
+  virtual ~MoteurCalcul();  // Class_Terminate
+
+  // Public properties, shared with the host (references, not copies).
+  std::string gPeriodeEncours;            // the pay month, "dd/mm/yyyy" of its first day
+  RsRef gRsConstantes;                    // constants, by CodeConstante or IdConstante
+  RsRef gRsTaux;                          // contribution rates, by CodeTaux
+  RsRef gRsTauxSpecifique;                // kept for the host
+  RsRef gRsCumuls;                        // cumulative totals of the pay run, by CodeCumul
+  RsRef gRsConstantesFixes;               // the current row of statutory values
+  RsRef gRsVariables;                     // kept for the host
+  RsRef gRsConstantesFixesHistorique;     // statutory values by month (Mois)
+  RsRef gRsCumulsHistoriqueSal;           // the employee's totals by month
+  double gdSmicMensuel = 0;               // left by the base "SMIC MENSUEL"
+
+  // The one dialog of the system. When the host sets OnMessage the text goes there;
+  // otherwise it is kept in Messages for the host to read after the call.
+  std::function<void(const std::string&)> OnMessage;
+  std::vector<std::string> Messages;
+  void MsgBox(const std::string& texte);
+
+  // ---- Lookups of reference data ----------------------------------------------------
+  // Each: the default on an empty source; otherwise first row, filter, read if a row stands,
+  // clear the filter. A null column gives 0 or the empty text. A source left at "no source"
+  // is a Fault; a value that is not numeric, or a missing column, too.
+
+  // "CodeConstante = 'code'", Valeur.
+  double dRechercheValeur_Constantes(const RsRef& rs, const std::string& sCode);
+  // "IdConstante = id" on gRsConstantes: Valeur into dValeur, TauxMontant into sType.
+  void RechercheValeurType_Constantes(Int32 lId, double& dValeur, std::string& sType);
+  // "CodeTaux = 'code'" on gRsTaux: PartSalariale rounded to 2 places.
+  double dRechercheValeurTaux(const std::string& sCode);
+  // "CodeCumul = 'code'" on gRsCumuls: PartSalariale for "S", else PartPatronale; 2 places.
+  double dRechercheValeurCumul(const std::string& sCode, const std::string& sType);
+  // "CodeVariable = 'code'": Valeur rounded to vNbDecimale places (absent: to the unit).
+  double dRechercheValeur_Variable(const RsRef& RsVariablesSalaries, const std::string& sCode,
+                                   std::optional<Int16> vNbDecimale = std::nullopt);
+  // The same variable read without rounding, a null giving 0. The rules that read a
+  // variable "with no rounding" go through this one.
+  double dValeurVariableSansArrondi(const RsRef& RsVariablesSalaries, const std::string& sCode);
+  // DateEffet of the variable, as "dd/mm/yyyy"; a null gives the empty text.
+  std::string dRechercheDate_Variable(const RsRef& RsVariablesSalaries, const std::string& sCode);
+  // Valeur of the variable into dValeur (0 by default); gives dValeur.
+  double dRechercheValeur_VariableBis(const RsRef& RsVariablesSalaries, const std::string& sCode,
+                                      double& dValeur);
+  // Point of the month sMois (yyyymm) in gRsConstantesFixesHistorique, into dValeur.
+  double dRecherchePointMois(Int32 lIdSalarie, const std::string& sPeriode,
+                             const std::string& sCode, double& dValeur, const std::string& sMois);
+  // Valeur of the constant for the month sMois.
+  double dRechercheValeurConstanteHistorique(const RsRef& rs, const std::string& sCode,
+                                             const std::string& sMois);
+  // The employee's total of a month (the month before sPeriode when sMois is empty), by
+  // code, or by id when lIdCumul is not 0. Into dValeur; gives dValeur.
+  double dRechercheValeurCumulHistorique(Int32 lIdSalarie, const std::string& sPeriode,
+                                         const std::string& sCode, double& dValeur,
+                                         const std::string& sMois, const std::string& sType,
+                                         Int32 lIdCumul);
+  // HeuresMois of the month before sDate in the employee's pay history.
+  double dRechercheHeuresMoisHistorique(const RsRef& RsSalariesHisto, const std::string& sDate);
+  // Point of the month sDate shifted by sDecalage months, into dPoint; gives dPoint.
+  double dRecherchePointHistorique(double& dPoint, const std::string& sDate,
+                                   const std::string& sDecalage);
+  // IndMinRemuneration of the month sDate shifted by sDecalage months; gives dIndMin.
+  double dRechercheIndMinHistorique(double& dIndMin, const std::string& sDate,
+                                    const std::string& sDecalage);
+  // Any column of gRsConstantesFixesHistorique for gPeriodeEncours shifted by vDecalage
+  // months (absent: -1); gives dValeur.
+  double dRechercheHistoriqueMois(const std::string& sChamp, double& dValeur,
+                                  std::optional<int> vDecalage = std::nullopt);
+  // SmicHor and HrsMois of the month before gPeriodeEncours.
+  void dRechercheSmicHistorique(double& dSmic, double& dHeures);
+
+  // F(field): a column of the current row of gRsConstantesFixes, a null giving 0.
+  double ConstanteFixe(const std::string& sChamp);
+
+ protected:
+  MoteurCalcul();  // Class_Initialize
+
+  // Runs one entry's work under the trap: any fault ends it and gives false; the records
+  // keep what was written before the fault.
+  static bool SousPiege(const std::function<void()>& travail) noexcept;
+};
+
+}  // namespace orvalis
+
+#endif  // ORVALIS_MOTEURCALCUL_H_

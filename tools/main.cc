@@ -1,0 +1,2 @@
+// orvalis: the command-line host of the engine.
+int main() { return 0; }
