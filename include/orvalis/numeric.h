@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 #include "orvalis/fault.h"
 
@@ -36,14 +37,7 @@ concept CheckedOrIntegral =
 namespace detail {
 template <typename Rep, typename T>
 constexpr Rep Narrow(T v) {
-  if constexpr (std::is_signed_v<T>) {
-    if (v < static_cast<T>(std::numeric_limits<Rep>::min()) ||
-        v > static_cast<T>(std::numeric_limits<Rep>::max()))
-      Faute("overflow");
-  } else {
-    if (v > static_cast<std::make_unsigned_t<Rep>>(std::numeric_limits<Rep>::max()))
-      Faute("overflow");
-  }
+  if (!std::in_range<Rep>(v)) Faute("overflow");
   return static_cast<Rep>(v);
 }
 }  // namespace detail
