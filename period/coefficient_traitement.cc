@@ -1,0 +1,118 @@
+// The treatment coefficient: the share of a full-time treatment that the post gives, on the
+// current month's values and on the previous month's.
+#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
+#include "period/periode_outils.h"
+
+namespace orvalis {
+
+namespace {
+
+// The part-time quotity: 80 % and 90 % are paid 6/7 and 32/35 of a full time.
+double Quotite(double dTaux) {
+  if (dTaux == 80) return 6.0 / 7.0;
+  if (dTaux == 90) return 32.0 / 35.0;
+  return dTaux / 100;
+}
+
+// The days of therapeutic part-time of the month count as full time.
+double CalculCoefficientAbsencesTpt(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
+                                    double dCoefficient) {
+  // The missing blank before the fourth OR is how hosts have always sent it.
+  static const std::string kCritere =
+      "CodeSituationExceptionnelle = 'MI' OR CodeSituationExceptionnelle = 'M6' OR "
+      "CodeSituationExceptionnelle = 'M7'OR CodeSituationExceptionnelle = 'M8' OR "
+      "CodeSituationExceptionnelle = 'M9' OR CodeSituationExceptionnelle = 'MV'";
+  const bool bSansLigne =
+      Source(InfosSalaries.rsSituationsExceptionnelles, "rsSituationsExceptionnelles")
+          .RecordCount() <= 0;
+  if (bSansLigne) return dCoefficient;
+
+  double dJours = 0;
+  periode::ParcourtSituations(InfosSalaries, kCritere, [&](Recordset& rs) {
+    const std::string& sPeriode = m.gPeriodeEncours;
+    Date dDebut = LireDate("01" + sPeriode.substr(sPeriode.size() < 8 ? 0 : sPeriode.size() - 8));
+    const std::string sFinMois = TexteDate(DernierJourDuMois(LireDate(sPeriode)));
+    Date dFin = LireDate(sFinMois);
+    // A month of 28, 29 or 30 days gets the day that its difference misses; a month of 31
+    // days already has it.
+    const std::string sJourFin = sFinMois.substr(0, 2);
+    const int k = (sJourFin == "28" || sJourFin == "29" || sJourFin == "30") ? 1 : 0;
+
+    const periode::Situation s = periode::LitSituation(rs);
+    const Date dDebutSituation = LireDate(s.sDateDebut);
+    if (DiffJours(dDebut, dDebutSituation) > 0) dDebut = dDebutSituation;
+    if (!s.sDateFin.empty()) {
+      const Date dFinSituation = LireDate(s.sDateFin);
+      if (DiffJours(dFin, dFinSituation) < 0) dFin = dFinSituation;
+    }
+    dJours = dJours + static_cast<double>(DiffJours(dDebut, dFin)) + k;
+  });
+  return ((30 - dJours) * dCoefficient + dJours) / 30;
+}
+
+}  // namespace
+
+void MethodeCalculG_Nouv::CalculCoefficientTraitementEnFonctionOccupationPoste(
+    VarCalculSalarie& InfosSalaries, bool bMoisEnCours, double& dCoefficientTraitement,
+    double& dCoefficientTraitementTNCAvantTP, double& dCoefficientTraitementSiTNC) {
+  dCoefficientTraitement = 0;
+  dCoefficientTraitementTNCAvantTP = 0;
+  dCoefficientTraitementSiTNC = 0;
+
+  const VarCalculSalarie& s = InfosSalaries;
+  const std::string& sOccupation = bMoisEnCours ? s.sOccupationPoste : s.sOccupationPosteMoisPrec;
+  const double dTauxPoste = bMoisEnCours ? s.dTauxPoste : s.dTauxPosteMoisPrec;
+  const double dTauxPosteTNC = bMoisEnCours ? s.dTauxPosteTNC : s.dTauxPosteTNCMoisPrec;
+  const double dHeuresHebdo = bMoisEnCours ? s.dHeuresHebdo : s.dHeuresHebdoMoisPrec;
+  const double dHeuresMois = bMoisEnCours ? s.dHeuresMois : s.dHeuresMensMoisPrec;
+  const double dHeuresOrigineTNC =
+      bMoisEnCours ? s.dHeuresHebdoOrigineTNC : s.dHeuresHebdoOrigineTNCMoisPrec;
+  const Int16 iTypeCalculHeure = bMoisEnCours ? s.iTypeCalculHeure : s.iTypeCalculHeureMoisPrec;
+  const double dDureeLegale = bMoisEnCours ? s.dDureeHebdoLegale : s.dDureeHebdoLegaleMoisPrec;
+  const double dDuree = dDureeLegale > 0 ? dDureeLegale : 35;
+
+  if (sOccupation == "P") {
+    dCoefficientTraitement = Quotite(dTauxPoste);
+    dCoefficientTraitement =
+        CalculCoefficientAbsencesTpt(*this, InfosSalaries, dCoefficientTraitement);
+  } else if (sOccupation == "T") {
+    dCoefficientTraitementSiTNC = Quotite(dTauxPosteTNC);
+    dCoefficientTraitementTNCAvantTP = dHeuresOrigineTNC / dDuree;
+    dCoefficientTraitement = dCoefficientTraitementTNCAvantTP * dCoefficientTraitementSiTNC;
+    // Only the part-time share is corrected: the product keeps the uncorrected value.
+    dCoefficientTraitementSiTNC =
+        CalculCoefficientAbsencesTpt(*this, InfosSalaries, dCoefficientTraitementSiTNC);
+  } else if (iTypeCalculHeure == 1) {
+    dCoefficientTraitement = dHeuresHebdo / dDuree;
+  } else if (dDureeLegale > 0) {
+    dCoefficientTraitement = Div(dHeuresMois, Arrondi(dDureeLegale * 151.67 / 35, 2));
+  } else {
+    dCoefficientTraitement = dHeuresMois / 151.67;
+  }
+}
+
+void MethodeCalculG_Nouv::CalculCoefficientTraitement(VarCalculSalarie& InfosSalaries) {
+  const std::string& sModele = InfosSalaries.sTypeModele;
+  if (sModele == "INDNTI" || sModele == "INDTIT") {
+    CalculCoefficientTraitementEnFonctionOccupationPoste(
+        InfosSalaries, true, InfosSalaries.dCoefficient_TraitementTN,
+        InfosSalaries.dCoefficientTraitementTNCAvantTP,
+        InfosSalaries.dCoefficientTraitementTPSiTNC);
+    CalculCoefficientTraitementEnFonctionOccupationPoste(
+        InfosSalaries, false, InfosSalaries.dCoefficient_TraitementTA,
+        InfosSalaries.dCoefficientTraitementTNCAvantTPMoisPrec,
+        InfosSalaries.dCoefficientTraitementTPSiTNCMoisPrec);
+  } else if (sModele == "ELUS") {
+    InfosSalaries.dCoefficient_Traitement = InfosSalaries.dTauxMaire / 100;
+    if (InfosSalaries.dTauxEPCI > 0)
+      InfosSalaries.dCoefficient_Traitement =
+          InfosSalaries.dTauxEPCI * InfosSalaries.dCoefficient_Traitement / 100;
+  } else {
+    InfosSalaries.dCoefficient_TraitementTA = 0;
+    InfosSalaries.dCoefficient_TraitementTN = 0;
+    InfosSalaries.dCoefficient_Traitement = 0;
+  }
+}
+
+}  // namespace orvalis
