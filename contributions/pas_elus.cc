@@ -1,0 +1,207 @@
+// Income tax at source of an elected official: the flat allowance for the expenses of the
+// mandate, in proportion to the principal allowance among the mandates of the period, with
+// its detail table rsPrelevementSourceElus (one row a mandate).
+#include <optional>
+
+#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
+#include "orvalis/dates.h"
+
+namespace orvalis {
+
+namespace {
+
+constexpr std::size_t kLongueurDesignation = 50;
+
+// The last n characters of a text (all of it when shorter).
+std::string Droite(const std::string& s, std::size_t n) {
+  return s.size() <= n ? s : s.substr(s.size() - n);
+}
+
+// The designation column holds 50 characters; the text is cut at a character boundary.
+std::string TronqueDesignation(const std::string& s) {
+  std::size_t nCaracteres = 0;
+  for (std::size_t i = 0; i < s.size(); ++i) {
+    if ((static_cast<unsigned char>(s[i]) & 0xC0) == 0x80) continue;  // continuation byte
+    if (nCaracteres == kLongueurDesignation) return s.substr(0, i);
+    ++nCaracteres;
+  }
+  return s;
+}
+
+// A flag of a mandate row: a null is neither true nor false.
+std::optional<bool> Indicateur(const Value& v) {
+  if (v.EstNull()) return std::nullopt;
+  if (v.EstTexte()) {
+    const std::string& s = v.Chaine();
+    if (s == "True" || s == "true" || s == "TRUE" || s == "Vrai" || s == "VRAI") return true;
+    if (s == "False" || s == "false" || s == "FALSE" || s == "Faux" || s == "FAUX") return false;
+  }
+  return v.Nombre() != 0;
+}
+
+bool EstFaux(const Value& v) { return Indicateur(v) == std::optional<bool>(false); }
+
+// A date of a mandate as the host gives it, a date text or a date serial; a null (or an
+// empty text) leaves every comparison with it unknown.
+std::optional<Date> DateMandat(const Value& v) {
+  if (v.EstNull()) return std::nullopt;
+  if (v.EstNombre()) return Date{CLng(Int(v.Double())).value()};  // time of day dropped
+  const std::string s = v.Texte();
+  if (s.empty()) return std::nullopt;
+  return LireDate(s);
+}
+
+// The mandate ran in month M: it began in or before M and ended in or after it.
+bool CouvreMois(const std::optional<Date>& dDebut, Date dMois, const std::optional<Date>& dFin) {
+  if (!dDebut || !dFin) return false;
+  return DiffMois(*dDebut, dMois) >= 0 && DiffMois(dMois, *dFin) >= 0;
+}
+
+// Months in a period by sEluPeriodicite: 2 quarterly, 3 half-yearly, 4 yearly; 0 stands for
+// a monthly official (1, or any other number).
+int MoisDeLaPeriode(double dPeriodicite) {
+  if (dPeriodicite == 2) return 3;
+  if (dPeriodicite == 3) return 6;
+  if (dPeriodicite == 4) return 12;
+  return 0;
+}
+
+bool FinDePeriode(int iMoisPeriode, int iMois) {
+  switch (iMoisPeriode) {
+    case 3: return iMois % 3 == 0;
+    case 6: return iMois == 6 || iMois == 12;
+    case 12: return iMois == 12;
+    default: return true;
+  }
+}
+
+}  // namespace
+
+RsRef MethodeCalculG_Nouv::EnregistreDetailPrelevementElu() {
+  return NouveauRecordset({"NumeroOrdre", "DesignationMandat", "DateDebut", "DateFin",
+                           "RemunerationBrute", "IndiceMajore", "FraisEmploiMandatUnique",
+                           "EluNonEligibleAbatFraisEmploi"});
+}
+
+double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(
+    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
+  Rubrique.rsPrelevementSourceElus = EnregistreDetailPrelevementElu();
+  Recordset& rsDetail = *Rubrique.rsPrelevementSourceElus;
+
+  const Date dPeriode = LireDate(gPeriodeEncours);
+  const int iMoisPeriode = MoisDeLaPeriode(Value(InfosSalaries.sEluPeriodicite).Nombre());
+  const bool bDernierMoisContrat =
+      !InfosSalaries.sDateFin.empty() &&
+      Droite(InfosSalaries.sDateFin, 7) == Droite(gPeriodeEncours, 7);
+  if (!FinDePeriode(iMoisPeriode, Mois(dPeriode)) && !bDernierMoisContrat) return 0;
+
+  const double dIndice = dRechercheValeur_Constantes(gRsConstantes, "INDMAJELU");
+  const double dTauxFrais =
+      Source(gRsConstantesFixes, "gRsConstantesFixes").Field("EluTxFrais").Nombre();
+  double dAbattementUnique = dIndice * ConstanteFixe("Point") * (dTauxFrais / 100) / 12;
+  double dAbattementMultiple = dAbattementUnique * 1.5;
+  if (InfosSalaries.bAbattementFiscalElu) {
+    const double dForfait = dRechercheValeur_Constantes(gRsConstantes, "ELUABTFISC");
+    if (dForfait != 0) {
+      dAbattementUnique = dForfait;
+      dAbattementMultiple = dForfait;
+    }
+  }
+
+  Int16 iNbMois = 1;
+  if (iMoisPeriode > 0) {
+    // A mandate begun within this period counts from its first month.
+    const Date dDebut = LireDate(InfosSalaries.sDateDebut);
+    const long lEcart = DiffMois(dDebut, dPeriode);
+    if (Annee(dDebut) == Annee(dPeriode) && lEcart >= 0 && lEcart < iMoisPeriode) {
+      iNbMois = Int16(lEcart + 1);
+    } else {
+      iNbMois = Int16(iMoisPeriode);
+    }
+  }
+
+  const double dBrutPrincipal = dRechercheValeurCumul("BRUT", "S");
+
+  Int32 lNumeroOrdre = 1;
+  rsDetail.AddNew();
+  rsDetail.SetField("NumeroOrdre", Value(lNumeroOrdre.value()));
+  rsDetail.SetField("DesignationMandat", Value("Indemnité principale"));
+  rsDetail.SetField("DateDebut", Value(InfosSalaries.sDateDebut));
+  rsDetail.SetField("DateFin", Value(InfosSalaries.sDateFin));
+  rsDetail.SetField("RemunerationBrute", Value(dBrutPrincipal));
+  rsDetail.SetField("IndiceMajore", Value(dIndice));
+  rsDetail.SetField("FraisEmploiMandatUnique", Value(dAbattementUnique));
+  rsDetail.SetField("EluNonEligibleAbatFraisEmploi",
+                    Value(InfosSalaries.bEluNonEligibleAbatFraisEmploi));
+
+  Recordset& rsAutres = Source(InfosSalaries.rsAutresIndemnites, "rsAutresIndemnites");
+  Int16 iMoisMultiples = 0;
+  double dBrutAutres = 0;
+  if (rsAutres.RecordCount() > 0) {
+    // Months of the period in which another eligible mandate ran.
+    for (int i = 0; i < iNbMois; ++i) {
+      const Date dMois = AjouteMois(dPeriode, -i);
+      rsAutres.MoveFirst();
+      while (!rsAutres.Eof()) {
+        if (EstFaux(rsAutres.Field("Salaire")) &&
+            EstFaux(rsAutres.Field("EluNonEligibleAbatFraisEmploi")) &&
+            CouvreMois(DateMandat(rsAutres.Field("DateDebut")), dMois,
+                       DateMandat(rsAutres.Field("DateFin")))) {
+          iMoisMultiples += 1;
+          break;
+        }
+        rsAutres.MoveNext();
+      }
+    }
+
+    // The mandates of the period. The start of the window lies a month before the period's
+    // first month, so a mandate ended the month before still counts: kept as the hosts know it.
+    const Date dDebutFenetre = iNbMois > 0 ? AjouteMois(dPeriode, -iNbMois) : dPeriode;
+    rsAutres.MoveFirst();
+    while (!rsAutres.Eof()) {
+      if (EstFaux(rsAutres.Field("Salaire"))) {
+        const std::optional<Date> dDebut = DateMandat(rsAutres.Field("DateDebut"));
+        const std::optional<Date> dFin = DateMandat(rsAutres.Field("DateFin"));
+        if (dDebut && dFin && DiffMois(*dDebut, dPeriode) >= 0 &&
+            DiffMois(dDebutFenetre, *dFin) >= 0) {
+          const Value vNonEligible = rsAutres.Field("EluNonEligibleAbatFraisEmploi");
+          const Value vBrute = rsAutres.Field("MontantRemunerationBrute");
+          if (EstFaux(vNonEligible)) dBrutAutres = dBrutAutres + vBrute.Nombre();
+
+          const Value vDesignation = rsAutres.Field("Designation");
+          lNumeroOrdre += 1;
+          rsDetail.AddNew();
+          rsDetail.SetField("NumeroOrdre", Value(lNumeroOrdre.value()));
+          rsDetail.SetField("DesignationMandat",
+                            vDesignation.EstNull() ? vDesignation
+                                                   : Value(TronqueDesignation(vDesignation.Texte())));
+          rsDetail.SetField("DateDebut", rsAutres.Field("DateDebut"));
+          rsDetail.SetField("DateFin", rsAutres.Field("DateFin"));
+          rsDetail.SetField("RemunerationBrute", vBrute);
+          rsDetail.SetField("IndiceMajore", Value(dIndice));
+          rsDetail.SetField("FraisEmploiMandatUnique",
+                            Value(iMoisMultiples > 0 ? dAbattementMultiple : dAbattementUnique));
+          rsDetail.SetField("EluNonEligibleAbatFraisEmploi", vNonEligible);
+        }
+      }
+      rsAutres.MoveNext();
+    }
+  }
+
+  if (InfosSalaries.bEluNonEligibleAbatFraisEmploi) return 0;
+
+  double dAbattementTotal = 0;
+  if (iMoisPeriode == 0) {
+    dAbattementTotal = iMoisMultiples > 0 ? dAbattementMultiple : dAbattementUnique;
+  } else {
+    if (iNbMois <= 0) return 0;
+    dAbattementTotal = (iNbMois - iMoisMultiples) * dAbattementUnique +
+                       iMoisMultiples * dAbattementMultiple;
+  }
+
+  // The tax base here is the principal allowance's: it bears only its share.
+  return Div(dBrutPrincipal, dBrutPrincipal + dBrutAutres) * dAbattementTotal;
+}
+
+}  // namespace orvalis
