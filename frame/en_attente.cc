@@ -16,36 +16,7 @@ namespace {
 
 const std::vector<std::string>& NomsEnAttente() {
   static const std::vector<std::string> kEnAttente = {
-      "RechercheValeurBase",
-      "RechercheValeurCoefficient",
-      "RechercheValeurTauxSalarial",
-      "RechercheValeurTauxPatronal",
-      "iNbJoursReelsPeriode",
-      "CalculPrelevementALaSource_Assiette",
-      "CalculPrelevementALaSource_Taux",
-      "dMtIJImposable",
-      "dNetAPayerAvantPAS",
-      "dRechercheValeurCumulRappel",
-      "RechercheValeursListeCumul",
-      "CalculPrelevementALaSource_Tauxold",
-      "CalculCoefficientUtilisationIndice",
-      "CalculCoefficientUtilisationTauxElus",
-      "CalculCoefficientTraitement",
-      "CalculCoefficientTraitementEnFonctionOccupationPoste",
       "CalculCoefficientDemiTraitement",
-      "CalculNombreJourPresence",
-      "CalculNombreJourPresenceMois",
-      "CalculNombreJourAutresAbsences",
-      "CalculNombreJourAutresAbsences_NouvelleGestion",
-      "CalculNombreJour_Situation",
-      "CalculNombreJourCarence",
-      "CalculNombreJourCarenceMois",
-      "CalculNombreJourCarence_Situation",
-      "CalculRubrique_BaseTaux",
-      "CalculRubrique_BaseTaux_Detachement",
-      "CalculRubrique_BaseDivTaux",
-      "CalculTauxHoraireMoisEnCours",
-      "CalculTauxHoraireMoisPrec",
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
@@ -55,25 +26,16 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Indemnite_Differentielle",
       "CalculRubrique_Indemnite_Differentielle_Nouv",
       "CalculRubrique_Indemnite_Differentielle_Mayotte",
-      "CalculRubrique_Indice_Reference",
-      "CalculRubrique_Indice_Reference_CAS",
-      "CalculRubrique_Indice_Reference_CAS_Communal",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
       "dMontantGIPA",
-      "CalculRubrique_BaseTauxChoix",
-      "CalculRubrique_BaseTauxSmic",
       "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
       "bDeclenchementComplementTauxCotisations",
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_Imposition_a_la_source_Frontalier",
-      "CalculRechercheJourDebutEtJourFin",
-      "CalculPrelevementALaSource_CasParticulierElu",
-      "CalculRubrique_MontantFixe",
-      "CalculRubrique_MontantFixeAnnuel",
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
@@ -110,8 +72,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Iat",
       "CalculRubrique_IndemniteKilometrique",
       "CalculRubrique_SujetionsSpeciales",
-      "CalculRubrique_BaseProrata30ADeduire",
-      "CalculRubrique_BaseProrata30",
       "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
       "CalculRubrique_ReductionHS",
@@ -143,51 +103,11 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_ArbitrageCongesPayes",
       "CalculRubrique_Degressivite",
       "CalculRubrique_ReductionCsgChomage",
-      "CalculSalaireBaseHS",
-      "CalculNombreJourDemiTraitement_NouvelleGestion",
-      "CalculNombreJourCPA_NouvelleGestion",
-      "CalculNombreJourCFA_NouvelleGestion",
-      "CalculNombreJourDetachement_NouvelleGestion",
-      "CalculNombreJourDispoOffice_NouvelleGestion",
-      "CalculNombreJourFormation_NouvelleGestion",
-      "CalculNombreJourCongeMaternite_NouvelleGestion",
-      "CalculNombreJourDetachementSansPension_NouvelleGestion",
-      "CalculNombreJourMaintienTraitement",
-      "CalculNombreJourTptNonSubroge",
   };
   return kEnAttente;
 }
 
-double MethodeCalculG_Nouv::RechercheValeurBase(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("RechercheValeurBase"); }
-double MethodeCalculG_Nouv::RechercheValeurCoefficient(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, Int32 /*lIdCoeffBase*/, const std::string& /*sCoeffBase*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("RechercheValeurCoefficient"); }
-double MethodeCalculG_Nouv::RechercheValeurTauxSalarial(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, std::string& /*sType*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("RechercheValeurTauxSalarial"); }
-double MethodeCalculG_Nouv::RechercheValeurTauxPatronal(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, std::string& /*sType*/, const std::string& /*sDesignation*/) { EnAttente("RechercheValeurTauxPatronal"); }
-Int16 MethodeCalculG_Nouv::iNbJoursReelsPeriode(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriode*/) { EnAttente("iNbJoursReelsPeriode"); }
-double MethodeCalculG_Nouv::CalculPrelevementALaSource_Assiette(VarCalculSalarie& /*InfosSalaries*/, double& /*dBase*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculPrelevementALaSource_Assiette"); }
-double MethodeCalculG_Nouv::CalculPrelevementALaSource_Taux(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculPrelevementALaSource_Taux"); }
-double MethodeCalculG_Nouv::dMtIJImposable(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("dMtIJImposable"); }
-double MethodeCalculG_Nouv::dNetAPayerAvantPAS(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("dNetAPayerAvantPAS"); }
-double MethodeCalculG_Nouv::dRechercheValeurCumulRappel(const std::string& /*sCode*/, const std::string& /*sType*/) { EnAttente("dRechercheValeurCumulRappel"); }
-void MethodeCalculG_Nouv::RechercheValeursListeCumul(const std::string& /*sListeCode*/, double& /*dValSal*/, double& /*dValPat*/) { EnAttente("RechercheValeursListeCumul"); }
-double MethodeCalculG_Nouv::CalculPrelevementALaSource_Tauxold(VarCalculSalarie& /*InfosSalaries*/, double& /*dBase*/, std::string& /*sDesignationRubrique*/) { EnAttente("CalculPrelevementALaSource_Tauxold"); }
-void MethodeCalculG_Nouv::CalculCoefficientUtilisationIndice(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculCoefficientUtilisationIndice"); }
-void MethodeCalculG_Nouv::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriode*/) { EnAttente("CalculCoefficientUtilisationTauxElus"); }
-void MethodeCalculG_Nouv::CalculCoefficientTraitement(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculCoefficientTraitement"); }
-void MethodeCalculG_Nouv::CalculCoefficientTraitementEnFonctionOccupationPoste(VarCalculSalarie& /*InfosSalaries*/, bool /*bMoisEnCours*/, double& /*dCoefficientTraitement*/, double& /*dCoefficientTraitementTNCAvantTP*/, double& /*dCoefficientTraitementSiTNC*/) { EnAttente("CalculCoefficientTraitementEnFonctionOccupationPoste"); }
 void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sType*/) { EnAttente("CalculCoefficientDemiTraitement"); }
-void MethodeCalculG_Nouv::CalculNombreJourPresence(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriode*/) { EnAttente("CalculNombreJourPresence"); }
-void MethodeCalculG_Nouv::CalculNombreJourPresenceMois(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriodeEnCours*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJourPresenceMois"); }
-void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourAutresAbsences"); }
-void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourAutresAbsences_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJour_Situation(const std::string& /*sSituation*/, const std::string& /*sDateDeb_Situation*/, const std::string& /*sDateFin_Situation*/, VarCalculSalarie& /*InfosSalaries*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJour_Situation"); }
-void MethodeCalculG_Nouv::CalculNombreJourCarence(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sDateDebutCarence*/, const std::string& /*sDateFinCarence*/, const std::string& /*sPeriode*/) { EnAttente("CalculNombreJourCarence"); }
-void MethodeCalculG_Nouv::CalculNombreJourCarenceMois(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriodeEnCours*/, const std::string& /*sDateDebutCarence*/, const std::string& /*sDateFinCarence*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJourCarenceMois"); }
-void MethodeCalculG_Nouv::CalculNombreJourCarence_Situation(const std::string& /*sSituation*/, const std::string& /*sDateDeb_Situation*/, const std::string& /*sDateFin_Situation*/, VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sDateDebutCarence*/, const std::string& /*sDateFinCarence*/, Int16& /*iNbj_IATA*/, Int16& /*iNbj_IATN*/, Int16& /*iNbj_INTA*/, Int16& /*iNbj_INTN*/) { EnAttente("CalculNombreJourCarence_Situation"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseTaux(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTaux"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTaux_Detachement"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseDivTaux(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseDivTaux"); }
-void MethodeCalculG_Nouv::CalculTauxHoraireMoisEnCours(double /*dCoeffMajoration*/, VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, double& /*dValeur*/, std::string& /*sType*/) { EnAttente("CalculTauxHoraireMoisEnCours"); }
-void MethodeCalculG_Nouv::CalculTauxHoraireMoisPrec(double /*dCoeffMajoration*/, VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, double& /*dValeur*/, std::string& /*sType*/) { EnAttente("CalculTauxHoraireMoisPrec"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
@@ -197,25 +117,16 @@ void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(VarCalc
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_Differentielle"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Nouv"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Mayotte"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_Indice_Reference"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indice_Reference_CAS"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indice_Reference_CAS_Communal"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple"); }
 std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, double /*dMntInitial*/) { EnAttente("dMontantProratiseSuivantDemiTraitement"); }
 void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Gipa"); }
 std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& /*InfosSalaries*/, double /*dIM_Debut*/, double /*dPoint_Debut*/, double /*dIM_Fin*/, double /*dPoint_Fin*/, double /*dTauxInflation*/, double /*dHrsHebdo*/, double /*dTauxTempsPartiel*/) { EnAttente("dMontantGIPA"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTauxChoix"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseTauxSmic(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseTauxSmic"); }
 void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(VarCalculSalarie& /*InfosSalaries*/, double& /*dMtFillonDejaCotise*/, bool /*bCalculFillon*/, bool /*bCalculMSA*/) { EnAttente("RechercheDonneesPourCalculExonerationAllocFamOuFillon"); }
 bool MethodeCalculG_Nouv::bDeclenchementComplementTauxCotisations(VarCalculSalarie& /*InfosSalaries*/, bool /*blnMsa*/) { EnAttente("bDeclenchementComplementTauxCotisations"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
 void MethodeCalculG_Nouv::CalculRubrique_Imposition_a_la_source_Frontalier(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Imposition_a_la_source_Frontalier"); }
-void MethodeCalculG_Nouv::CalculRechercheJourDebutEtJourFin(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sPeriodeEnCours*/, std::string& /*sDernierJourMois*/, Int16& /*iJourDeb*/, Int16& /*iJourFin*/) { EnAttente("CalculRechercheJourDebutEtJourFin"); }
-double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculPrelevementALaSource_CasParticulierElu"); }
-void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_MontantFixe"); }
-void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_MontantFixeAnnuel"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementHoraireMois(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementHoraireMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMoisPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMoisPrecedent"); }
@@ -252,8 +163,6 @@ void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(VarCalculSala
 void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Iat"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteKilometrique"); }
 void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SujetionsSpeciales"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseProrata30ADeduire"); }
-void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_BaseProrata30"); }
 void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, bool /*bOption*/) { EnAttente("CalculRubrique_Mgen"); }
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilialIC(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_SupplementFamilialIC"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ReductionHS"); }
@@ -285,16 +194,5 @@ void MethodeCalculG_Nouv::CalculRubrique_RetenueCongesPayes(VarCalculSalarie& /*
 void MethodeCalculG_Nouv::CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ArbitrageCongesPayes"); }
 void MethodeCalculG_Nouv::CalculRubrique_Degressivite(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Degressivite"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionCsgChomage(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sCode*/) { EnAttente("CalculRubrique_ReductionCsgChomage"); }
-void MethodeCalculG_Nouv::CalculSalaireBaseHS(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculSalaireBaseHS"); }
-void MethodeCalculG_Nouv::CalculNombreJourDemiTraitement_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDemiTraitement_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourCPA_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourCPA_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourCFA_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourCFA_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourDetachement_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDetachement_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourDispoOffice_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDispoOffice_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourFormation_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourFormation_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourCongeMaternite_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourCongeMaternite_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourDetachementSansPension_NouvelleGestion(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourDetachementSansPension_NouvelleGestion"); }
-void MethodeCalculG_Nouv::CalculNombreJourMaintienTraitement(VarCalculSalarie& /*InfosSalaries*/, Int16 /*iPourcentage*/) { EnAttente("CalculNombreJourMaintienTraitement"); }
-void MethodeCalculG_Nouv::CalculNombreJourTptNonSubroge(VarCalculSalarie& /*InfosSalaries*/) { EnAttente("CalculNombreJourTptNonSubroge"); }
 
 }  // namespace orvalis

@@ -60,6 +60,25 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   double RechercheValeurTauxPatronal(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                                      SalarieCalculRubrique& Rubrique, std::string& sType,
                                      const std::string& sDesignation);
+  // "CodeTaux = 'code'" on gRsTaux: PartPatronale rounded to 2 places; 0 by default or null.
+  double dRechercheTauxPatronal(const std::string& sCode);
+  // The rate of the CET designations into dTaux: the constant "~TXCSGPROF" times the rates
+  // "URSDCSG" + "URSCSG" + "URSRDS". Gives true.
+  bool bTauxCsgProfessionnel(double& dTaux);
+  // The employee's own hourly rate from his variables. sCodeTauxSmic (a percentage of the
+  // SMIC of the month, or of the month before when bMoisPrec) above 0 gives
+  // SMIC x percentage x dCoeffMajoration / 100; otherwise sCodeTauxHeures, rounded to
+  // iNbDecimales, times dCoeffMajoration, with sType = sCodeType. With neither variable, or
+  // no row in RsVar, dValeur and sType stay as given. dHeures and sMois are not read.
+  void CalculTauxHoraireSalarie(const RsRef& RsVar, const std::string& sCodeTauxSmic,
+                                const std::string& sCodeTauxHeures, const std::string& sCodeType,
+                                double dHeures, double dCoeffMajoration, double& dValeur,
+                                std::string& sType, const std::string& sMois, bool bMoisPrec,
+                                Int16 iNbDecimales);
+  // The value of one worked day for the arbitration of paid leave: the line's coefficient
+  // over a twelfth of the working days of the year, to 2 places; 0 for a year without one.
+  double dArbitrageJours(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                         SalarieCalculRubrique& Rubrique);
   // ---- Generic pay lines (generic/) ------------------------------------------------------
   void CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                                const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
@@ -162,6 +181,18 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   void CalculNombreJourDetachementSansPension_NouvelleGestion(VarCalculSalarie& InfosSalaries);
   void CalculNombreJourMaintienTraitement(VarCalculSalarie& InfosSalaries, Int16 iPourcentage);
   void CalculNombreJourTptNonSubroge(VarCalculSalarie& InfosSalaries);
+  // The yearly reference salary of overtime on dIndice, sType "ENCOURS" or "ANCIEN".
+  double CalculSalaireBaseHS_Periode(VarCalculSalarie& InfosSalaries, double dIndice,
+                                     const std::string& sType);
+  // Older forms of the situation counts, from sSituation1 and sSituation2 of the record.
+  void CalculNombreJourDemiTraitement(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCPA(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCFA(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDispoOffice(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCongeMaternite(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourFormation(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDetachement(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDetachementSansPension(VarCalculSalarie& InfosSalaries);
 
   // ---- Tax at source (contributions/) ----------------------------------------------------
   double CalculPrelevementALaSource_Assiette(VarCalculSalarie& InfosSalaries, double& dBase,
@@ -182,6 +213,10 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                                         const RsRef& RsVariablesSalaries);
   double CalculPrelevementALaSource_CasParticulierElu(VarCalculSalarie& InfosSalaries,
                                                       SalarieCalculRubrique& Rubrique);
+  // Taxable base of an apprentice or a trainee: the year's taxable net above "SMICANNUEL".
+  double dSeuilPrelevementSource(VarCalculSalarie& InfosSalaries);
+  // A new, empty detail table of the officials' tax at source (rsPrelevementSourceElus).
+  RsRef EnregistreDetailPrelevementElu();
 
   // ---- Salary elements (salary/) ---------------------------------------------------------
   void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,

@@ -38,6 +38,9 @@ class Recordset {
   virtual void SetField(const std::string& column, const Value& v) = 0;
   // Appends an empty row (all nulls) and makes it the current row.
   virtual void AddNew() = 0;
+  // Adds a column, null in every row, for hosts building a table. A name already present
+  // (whatever its case), or a source that can't grow, is a Fault.
+  virtual void AjouteColonne(const std::string& column);
 
   // The whole content, all rows in order, whatever the filter: for hosts and tools.
   virtual std::vector<std::string> Columns() const = 0;

@@ -1,0 +1,73 @@
+// Pay lines on a reference index: the employee's increased index at most the reference
+// takes the first amount, above it the second.
+#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
+
+namespace orvalis {
+
+namespace {
+
+// The two amounts of the fund's rate row named sCode1 (index at most the reference) or
+// sCode2 (above it).
+void IndiceReferenceCAS(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
+                        const RsRef& RsVarSalaries, SalarieCalculRubrique& Rubrique,
+                        const char* sCode1, const char* sCode2) {
+  const double I = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+  Rubrique.dMontantSalarial = 0;
+  Rubrique.dMontantPatronal = 0;
+  const std::string sCode = InfosSalaries.dIndiceMajoreM <= I ? sCode1 : sCode2;
+
+  Recordset& rs = Source(m.gRsTaux, "gRsTaux");
+  rs.Filter("IdOrganisme = " + std::to_string(Rubrique.lIdOrganisme.value()) +
+            " And CodeTaux = '" + sCode + "'");
+  if (rs.RecordCount() > 0) {
+    Rubrique.dMontantSalarial = rs.Field("PartSalariale").NombreOuZero();
+    Rubrique.dMontantPatronal = rs.Field("PartPatronale").NombreOuZero();
+  }
+  rs.ClearFilter();
+  Rubrique.dBase = 0;
+  Rubrique.dTauxSalarial = 0;
+  Rubrique.dTauxPatronal = 0;
+}
+
+}  // namespace
+
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries,
+                                                          const RsRef& RsVarSalaries,
+                                                          const RsRef& RsVarSalariesHisto,
+                                                          SalarieCalculRubrique& Rubrique,
+                                                          const RsRef& RsSalariesHisto) {
+  const double I = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+  const double K = RechercheValeurCoefficient(InfosSalaries, RsVarSalaries, Rubrique.lIdCoeffBase,
+                                              Rubrique.sCoeffBase, Rubrique);
+  std::string sType;
+  if (InfosSalaries.dIndiceMajoreM <= I) {
+    Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
+                                                         RsVarSalariesHisto, Rubrique, sType,
+                                                         RsSalariesHisto);
+    Rubrique.dBase = Rubrique.dTauxSalarial;
+  } else {
+    Rubrique.dTauxPatronal =
+        RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sType, "");
+    Rubrique.dBase = Rubrique.dTauxPatronal;
+  }
+  Rubrique.dMontantSalarial = Arrondi(Rubrique.dBase * K, 2);
+  Rubrique.dTauxSalarial = 0;
+  Rubrique.dTauxPatronal = 0;
+  Rubrique.dMontantPatronal = 0;
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
+                                                              const RsRef& RsVarSalaries,
+                                                              const RsRef& /*RsVarSalariesHisto*/,
+                                                              SalarieCalculRubrique& Rubrique) {
+  IndiceReferenceCAS(*this, InfosSalaries, RsVarSalaries, Rubrique, "CAS1", "CAS2");
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS_Communal(
+    VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+    const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& Rubrique) {
+  IndiceReferenceCAS(*this, InfosSalaries, RsVarSalaries, Rubrique, "CASC1", "CASC2");
+}
+
+}  // namespace orvalis

@@ -1,0 +1,101 @@
+// Pay lines whose "rates" are amounts or day counts: "MONTANT FIXE", "MONTANT FIXE ANNUEL"
+// and the two "BASE PRORATISEE SELON NB JOURS / 30".
+#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
+
+namespace orvalis {
+
+namespace {
+
+// Steps 1 to 3 of both fixed amounts: the base, its coefficient, and the two rate
+// designations standing for the amounts themselves. Gives the coefficient.
+double MontantsFixes(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
+                     const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
+                     SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto) {
+  Rubrique.dBase = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+  const double K = m.RechercheValeurCoefficient(InfosSalaries, RsVarSalaries,
+                                                Rubrique.lIdCoeffBase, Rubrique.sCoeffBase,
+                                                Rubrique);
+  std::string sType;
+  Rubrique.dMontantSalarial = m.RechercheValeurTauxSalarial(
+      InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, sType, RsSalariesHisto);
+  Rubrique.dMontantPatronal =
+      m.RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sType, "");
+  return K;
+}
+
+// Days times the base over 30: the employee "rate" is a number of days.
+double Prorata30(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
+                 const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
+                 SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto) {
+  const double B = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+  Rubrique.dBase = B * m.RechercheValeurCoefficient(InfosSalaries, RsVarSalaries,
+                                                    Rubrique.lIdCoeffBase, Rubrique.sCoeffBase,
+                                                    Rubrique);
+  std::string sType;
+  Rubrique.dTauxSalarial = m.RechercheValeurTauxSalarial(
+      InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, sType, RsSalariesHisto);
+  return Rubrique.dTauxSalarial * Rubrique.dBase / 30;
+}
+
+}  // namespace
+
+void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries,
+                                                     const RsRef& RsVarSalaries,
+                                                     const RsRef& RsVarSalariesHisto,
+                                                     SalarieCalculRubrique& Rubrique,
+                                                     const RsRef& RsSalariesHisto) {
+  const double K = MontantsFixes(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                                 Rubrique, RsSalariesHisto);
+  // With neither amount, the base (times its coefficient, when the line names one) is paid.
+  if (Rubrique.dMontantSalarial == 0 && Rubrique.dMontantPatronal == 0) {
+    if (!Rubrique.sCoeffBase.empty()) {
+      Rubrique.dTauxSalarial = Arrondi(K, 4);
+      Rubrique.dMontantSalarial = Rubrique.dTauxSalarial * Rubrique.dBase;
+    } else {
+      Rubrique.dTauxSalarial = 0;
+      Rubrique.dMontantSalarial = Rubrique.dBase;
+      Rubrique.dBase = 0;
+    }
+  }
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries,
+                                                           const RsRef& RsVarSalaries,
+                                                           const RsRef& RsVarSalariesHisto,
+                                                           SalarieCalculRubrique& Rubrique,
+                                                           const RsRef& RsSalariesHisto) {
+  const double K = MontantsFixes(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                                 Rubrique, RsSalariesHisto);
+  // With neither amount, a twelfth of the yearly base is paid.
+  if (Rubrique.dMontantSalarial == 0 && Rubrique.dMontantPatronal == 0) {
+    Rubrique.dTauxSalarial = 0;
+    if (!Rubrique.sCoeffBase.empty()) {
+      Rubrique.dMontantSalarial = Rubrique.dBase / 12 * Arrondi(K, 4);
+    } else {
+      Rubrique.dMontantSalarial = Rubrique.dBase / 12;
+    }
+    Rubrique.dBase = 0;
+    Rubrique.dMontantPatronal = Rubrique.dMontantPatronal / 12;
+  }
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries,
+                                                       const RsRef& RsVarSalaries,
+                                                       const RsRef& RsVarSalariesHisto,
+                                                       SalarieCalculRubrique& Rubrique,
+                                                       const RsRef& RsSalariesHisto) {
+  Rubrique.dMontantSalarial = Prorata30(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                                        Rubrique, RsSalariesHisto);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
+                                                               const RsRef& RsVarSalaries,
+                                                               const RsRef& RsVarSalariesHisto,
+                                                               SalarieCalculRubrique& Rubrique,
+                                                               const RsRef& RsSalariesHisto) {
+  Rubrique.dMontantSalarial = -Prorata30(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                                         Rubrique, RsSalariesHisto);
+}
+
+}  // namespace orvalis

@@ -1,0 +1,148 @@
+// The operations that a case may call directly, one row each.
+//
+// The engine's public operations in their public order, then the lookups of reference data,
+// the resolvers of the generic pay lines and the numeric and date utilities. A name may have
+// one row per engine class (the entry points); a member of the common base serves both.
+#include "tools/call_table.h"
+
+namespace orvalis::tools {
+
+namespace appel {
+
+void RefuseJeton(const Json& j, const std::string& lieu, const char* attendu) {
+  if (!j.is_string()) return;
+  const auto& s = j.get_ref<const std::string&>();
+  if (s == "$salarie" || s == "$rubrique" || s == "$absent")
+    throw ErreurCas(lieu, "\"" + s + "\" does not stand for a " + attendu + " argument");
+}
+
+std::string Signature(const std::string& nom, const std::vector<std::string>& parametres) {
+  std::string s = nom + "(";
+  for (std::size_t i = 0; i < parametres.size(); ++i) s += (i ? ", " : "") + parametres[i];
+  return s + ")";
+}
+
+}  // namespace appel
+
+const std::vector<Operation>& TableDesAppels() {
+  using N = MethodeCalculG_Nouv;
+  using H = MethodeCalculG;
+  using M = MoteurCalcul;
+  static const std::vector<Operation> kTable = {
+      // ---- Public operations of MethodeCalculG_Nouv ----------------------------------------
+      Op("CalculPrelevementALaSource_Tauxold", &N::CalculPrelevementALaSource_Tauxold),
+      Op("CalculPrelevementALaSource_Taux", &N::CalculPrelevementALaSource_Taux),
+      Op("Appel_Methode_Preparation_Calcul_General", &N::Appel_Methode_Preparation_Calcul_General),
+      Op("Appel_Methode_Calcul_General", &N::Appel_Methode_Calcul_General),
+      Op("CalculCoefficientUtilisationIndice", &N::CalculCoefficientUtilisationIndice),
+      Op("CalculCoefficientUtilisationTauxElus", &N::CalculCoefficientUtilisationTauxElus),
+      Op("CalculCoefficientTraitement", &N::CalculCoefficientTraitement),
+      Op("CalculCoefficientTraitementEnFonctionOccupationPoste",
+         &N::CalculCoefficientTraitementEnFonctionOccupationPoste),
+      Op("CalculCoefficientDemiTraitement", &N::CalculCoefficientDemiTraitement),
+      Op("CalculNombreJourPresence", &N::CalculNombreJourPresence),
+      Op("CalculNombreJourPresenceMois", &N::CalculNombreJourPresenceMois),
+      Op("CalculNombreJourAutresAbsences", &N::CalculNombreJourAutresAbsences),
+      Op("CalculNombreJourAutresAbsences_NouvelleGestion",
+         &N::CalculNombreJourAutresAbsences_NouvelleGestion),
+      Op("CalculNombreJour_Situation", &N::CalculNombreJour_Situation),
+      Op("CalculNombreJourCarence", &N::CalculNombreJourCarence),
+      Op("CalculNombreJourCarenceMois", &N::CalculNombreJourCarenceMois),
+      Op("CalculNombreJourCarence_Situation", &N::CalculNombreJourCarence_Situation),
+      Op("CalculRubrique_BaseTaux", &N::CalculRubrique_BaseTaux),
+      Op("CalculRubrique_BaseTaux_Detachement", &N::CalculRubrique_BaseTaux_Detachement),
+      Op("CalculRubrique_BaseDivTaux", &N::CalculRubrique_BaseDivTaux),
+      Op("dMtIJImposable", &N::dMtIJImposable),
+      Op("iNbJoursReelsPeriode", &N::iNbJoursReelsPeriode),
+      Op("CalculTauxHoraireMoisEnCours", &N::CalculTauxHoraireMoisEnCours),
+      Op("CalculTauxHoraireMoisPrec", &N::CalculTauxHoraireMoisPrec),
+      Op("CalculRubrique_Retenue_a_la_source", &N::CalculRubrique_Retenue_a_la_source),
+      Op("CalculRubrique_TaxeSalaire_Taux1", &N::CalculRubrique_TaxeSalaire_Taux1),
+      Op("CalculRubrique_TaxeSalaire_Taux2", &N::CalculRubrique_TaxeSalaire_Taux2),
+      Op("CalculRubrique_Indemnites_journalieres", &N::CalculRubrique_Indemnites_journalieres),
+      Op("Calcul_Indemnites_journalieres", &N::Calcul_Indemnites_journalieres),
+      Op("Calcul_Indemnites_Journalieres_NouvelleMethode",
+         &N::Calcul_Indemnites_Journalieres_NouvelleMethode),
+      Op("CalculRubrique_Indemnite_Differentielle", &N::CalculRubrique_Indemnite_Differentielle),
+      Op("CalculRubrique_Indemnite_Differentielle_Nouv",
+         &N::CalculRubrique_Indemnite_Differentielle_Nouv),
+      Op("CalculRubrique_Indemnite_Differentielle_Mayotte",
+         &N::CalculRubrique_Indemnite_Differentielle_Mayotte),
+      Op("CalculRubrique_Indice_Reference", &N::CalculRubrique_Indice_Reference),
+      Op("CalculRubrique_Indice_Reference_CAS", &N::CalculRubrique_Indice_Reference_CAS),
+      Op("CalculRubrique_Indice_Reference_CAS_Communal",
+         &N::CalculRubrique_Indice_Reference_CAS_Communal),
+      Op("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
+         &N::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple),
+      Op("dRechercheValeur_Constantes", &M::dRechercheValeur_Constantes),
+      Op("RechercheValeurType_Constantes", &M::RechercheValeurType_Constantes),
+      Op("dRechercheValeurTaux", &M::dRechercheValeurTaux),
+      Op("dRechercheValeurCumul", &M::dRechercheValeurCumul),
+      Op("dRechercheValeurCumulRappel", &N::dRechercheValeurCumulRappel),
+      Op("dRechercheValeur_Variable", &M::dRechercheValeur_Variable),
+      Op("dRechercheDate_Variable", &M::dRechercheDate_Variable),
+      // A public operation of the current class only; the historic class lacks it.
+      Op("MajDateEnFormatChaine", &MajDateEnFormatChaine, kNouv),
+      Op("MajChaineEnFormatDate", &MajChaineEnFormatDate),
+      Op("dMontantProratiseSuivantDemiTraitement", &N::dMontantProratiseSuivantDemiTraitement),
+      Op("CalculRubrique_Gipa", &N::CalculRubrique_Gipa),
+      Op("dMontantGIPA", &N::dMontantGIPA),
+      Op("CalculRubrique_BaseTauxChoix", &N::CalculRubrique_BaseTauxChoix),
+      Op("CalculRubrique_BaseTauxSmic", &N::CalculRubrique_BaseTauxSmic),
+      Op("RechercheDonneesPourCalculExonerationAllocFamOuFillon",
+         &N::RechercheDonneesPourCalculExonerationAllocFamOuFillon),
+      Op("bDeclenchementComplementTauxCotisations", &N::bDeclenchementComplementTauxCotisations),
+      Op("CalculRubrique_Indemnite_transport_Corse", &N::CalculRubrique_Indemnite_transport_Corse),
+      Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
+         &N::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
+      Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),
+      Op("CalculRubrique_Traitement_Indiciaire_Journalier",
+         &N::CalculRubrique_Traitement_Indiciaire_Journalier),
+      Op("CalculRubrique_Imposition_a_la_source_Frontalier",
+         &N::CalculRubrique_Imposition_a_la_source_Frontalier),
+      Op("CalculRubrique_Prelevement_a_la_source", &N::CalculRubrique_Prelevement_a_la_source),
+      Op("CalculRechercheJourDebutEtJourFin", &N::CalculRechercheJourDebutEtJourFin),
+      Op("CalculPrelevementALaSource_CasParticulierElu",
+         &N::CalculPrelevementALaSource_CasParticulierElu),
+
+      // ---- Entry points of MethodeCalculG ----------------------------------------------------
+      Op("Appel_Methode_Preparation_Calcul_General", &H::Appel_Methode_Preparation_Calcul_General),
+      Op("Appel_Methode_Calcul_General", &H::Appel_Methode_Calcul_General),
+
+      // ---- Other lookups of reference data (both engines) ------------------------------------
+      Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),
+      Op("dRecherchePointMois", &M::dRecherchePointMois),
+      Op("dRechercheValeurConstanteHistorique", &M::dRechercheValeurConstanteHistorique),
+      Op("dRechercheValeurCumulHistorique", &M::dRechercheValeurCumulHistorique),
+      Op("dRechercheHeuresMoisHistorique", &M::dRechercheHeuresMoisHistorique),
+      Op("dRecherchePointHistorique", &M::dRecherchePointHistorique),
+      Op("dRechercheIndMinHistorique", &M::dRechercheIndMinHistorique),
+      Op("dRechercheHistoriqueMois", &M::dRechercheHistoriqueMois),
+      Op("dRechercheSmicHistorique", &M::dRechercheSmicHistorique),
+
+      // ---- Resolvers of the generic pay lines ------------------------------------------------
+      Op("RechercheValeurBase", &N::RechercheValeurBase),
+      Op("RechercheValeurCoefficient", &N::RechercheValeurCoefficient),
+      Op("RechercheValeurTauxSalarial", &N::RechercheValeurTauxSalarial),
+      Op("RechercheValeurTauxPatronal", &N::RechercheValeurTauxPatronal),
+      Op("dRechercheTauxPatronal", &N::dRechercheTauxPatronal),
+      Op("bTauxCsgProfessionnel", &N::bTauxCsgProfessionnel),
+      Op("CalculTauxHoraireSalarie", &N::CalculTauxHoraireSalarie),
+      Op("dArbitrageJours", &N::dArbitrageJours),
+
+      // ---- Numeric and date utilities (both engines) -----------------------------------------
+      Op("Arrondi", &Arrondi),
+      Op("dTronqueAuPas", &dTronqueAuPas),
+      Op("dTronqueDecimales", &dTronqueDecimales),
+      Op("sNormaliseDecimale", &sNormaliseDecimale),
+      Op("iNbJoursBase30", &iNbJoursBase30),
+      Op("iNbJoursBase30Commun", &iNbJoursBase30Commun),
+      Op("iNbJoursCommunsMois", &iNbJoursCommunsMois),
+      Op("bJourOuvre", &bJourOuvre),
+      Op("iNbJoursOuvresAnnee", &iNbJoursOuvresAnnee),
+      Op("CoefficientsCPA", &CoefficientsCPA),
+  };
+  return kTable;
+}
+
+}  // namespace orvalis::tools

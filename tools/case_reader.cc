@@ -1,0 +1,234 @@
+// Reading and checking a case file: every key, step and argument, before anything runs.
+#include <array>
+#include <set>
+#include <string_view>
+
+#include "tools/case_runner.h"
+
+namespace orvalis::tools {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> kGenres = {"prepare", "calc", "set", "sources", "call"};
+
+const DefSource kSources[] = {
+    {"gRsConstantes", &MoteurCalcul::gRsConstantes, nullptr},
+    {"gRsTaux", &MoteurCalcul::gRsTaux, nullptr},
+    {"gRsTauxSpecifique", &MoteurCalcul::gRsTauxSpecifique, nullptr},
+    {"gRsCumuls", &MoteurCalcul::gRsCumuls, nullptr},
+    {"gRsConstantesFixes", &MoteurCalcul::gRsConstantesFixes, nullptr},
+    {"gRsVariables", &MoteurCalcul::gRsVariables, nullptr},
+    {"gRsConstantesFixesHistorique", &MoteurCalcul::gRsConstantesFixesHistorique, nullptr},
+    {"gRsCumulsHistoriqueSal", &MoteurCalcul::gRsCumulsHistoriqueSal, nullptr},
+    {"gRsConstantesHistorique", nullptr, &MethodeCalculG_Nouv::gRsConstantesHistorique},
+    {"gRsBaremeTauxPAS", nullptr, &MethodeCalculG_Nouv::gRsBaremeTauxPAS},
+};
+
+const char* NomMoteur(TypeMoteur m) {
+  return m == TypeMoteur::Nouv ? "MethodeCalculG_Nouv" : "MethodeCalculG";
+}
+
+std::vector<AffectationSource> LitSources(const Json& j, const std::string& lieu, TypeMoteur m) {
+  if (!j.is_object()) throw ErreurCas(lieu, "expected an object of sources, got " + Decrit(j));
+  std::vector<AffectationSource> sources;
+  for (const auto& [nom, valeur] : j.items()) {
+    const std::string ici = Sous(lieu, nom);
+    const DefSource* def = nullptr;
+    for (const auto& d : kSources)
+      if (nom == d.nom) def = &d;
+    if (def == nullptr || (def->nouv != nullptr && m != TypeMoteur::Nouv))
+      throw ErreurCas(ici, std::string(NomMoteur(m)) + " has no source '" + nom + "'");
+    sources.push_back({def, LitTable(valeur, ici)});
+  }
+  return sources;
+}
+
+const Operation& TrouveOperation(const std::string& nom, TypeMoteur m, const std::string& lieu) {
+  const unsigned masque = m == TypeMoteur::Nouv ? kNouv : kHisto;
+  bool ailleurs = false;
+  for (const auto& op : TableDesAppels()) {
+    if (op.nom != nom) continue;
+    if (op.moteurs & masque) return op;
+    ailleurs = true;
+  }
+  if (ailleurs) throw ErreurCas(lieu, std::string(NomMoteur(m)) + " has no operation '" + nom + "'");
+  throw ErreurCas(lieu, "unknown operation '" + nom + "'");
+}
+
+bool Snapshot(const Json& etape, const std::string& lieu) {
+  return etape.contains("snapshot") && LitBooleen(etape["snapshot"], Sous(lieu, "snapshot"));
+}
+
+// The kind of a step: exactly one of its keys names one.
+std::string_view GenreEtape(const Json& etape, const std::string& lieu) {
+  std::vector<std::string_view> genres;
+  for (auto g : kGenres)
+    if (etape.contains(std::string(g))) genres.push_back(g);
+  if (genres.size() == 1) return genres[0];
+  if (genres.size() > 1)
+    throw ErreurCas(lieu, "a step has exactly one of prepare, calc, set, sources, call; this one has '" +
+                              std::string(genres[0]) + "' and '" + std::string(genres[1]) + "'");
+  static const std::set<std::string, std::less<>> kAutres = {
+      "rubrique", "RsVarSalaries", "RsVarSalariesHisto", "RsSalariesHisto", "keep_rubrique",
+      "snapshot", "args"};
+  for (const auto& [cle, v] : etape.items()) {
+    (void)v;
+    if (!kAutres.contains(cle))
+      throw ErreurCas(lieu, "unknown step kind '" + cle + "' (prepare, calc, set, sources, call)");
+  }
+  throw ErreurCas(lieu, "a step needs one of the keys prepare, calc, set, sources, call");
+}
+
+void VerifieCles(const Json& etape, const std::string& lieu, std::string_view genre,
+                 std::initializer_list<std::string_view> permises) {
+  for (const auto& [cle, v] : etape.items()) {
+    (void)v;
+    bool ok = cle == genre;
+    for (auto p : permises) ok = ok || cle == p;
+    if (!ok) throw ErreurCas(Sous(lieu, cle), "not a key of a " + std::string(genre) + " step");
+  }
+}
+
+Etape LitEtape(const Json& etape, const std::string& lieu, TypeMoteur m, bool& calcVu) {
+  if (!etape.is_object()) throw ErreurCas(lieu, "a step is an object, got " + Decrit(etape));
+  const std::string_view genre = GenreEtape(etape, lieu);
+  const std::string lieuGenre = Sous(lieu, genre);
+  const Json& valeur = etape[std::string(genre)];
+
+  if (genre == "prepare") {
+    VerifieCles(etape, lieu, genre, {"snapshot"});
+    return EtapePrepare{LitTexte(valeur, lieuGenre), Snapshot(etape, lieu)};
+  }
+  if (genre == "calc") {
+    VerifieCles(etape, lieu, genre,
+                {"rubrique", "RsVarSalaries", "RsVarSalariesHisto", "RsSalariesHisto",
+                 "keep_rubrique", "snapshot"});
+    EtapeCalc c;
+    c.nom = LitTexte(valeur, lieuGenre);
+    if (etape.contains("rubrique"))
+      c.rubrique = LitChamps<SalarieCalculRubrique>(etape["rubrique"], Sous(lieu, "rubrique"));
+    auto table = [&](const char* cle) {
+      return etape.contains(cle) ? LitTable(etape[cle], Sous(lieu, cle)) : RsRef();
+    };
+    c.RsVarSalaries = table("RsVarSalaries");
+    c.RsVarSalariesHisto = table("RsVarSalariesHisto");
+    c.RsSalariesHisto = table("RsSalariesHisto");
+    if (etape.contains("keep_rubrique")) {
+      const std::string ici = Sous(lieu, "keep_rubrique");
+      c.garde = LitBooleen(etape["keep_rubrique"], ici);
+      if (c.garde && !calcVu) throw ErreurCas(ici, "no earlier calc step whose pay line to keep");
+    }
+    c.snapshot = Snapshot(etape, lieu);
+    calcVu = true;
+    return c;
+  }
+  if (genre == "set") {
+    VerifieCles(etape, lieu, genre, {});
+    return EtapeSet{LitChamps<VarCalculSalarie>(valeur, lieuGenre)};
+  }
+  if (genre == "sources") {
+    VerifieCles(etape, lieu, genre, {});
+    return EtapeSources{LitSources(valeur, lieuGenre, m)};
+  }
+  VerifieCles(etape, lieu, genre, {"args", "snapshot"});
+  const Operation& op = TrouveOperation(LitTexte(valeur, lieuGenre), m, lieuGenre);
+  const Json args = etape.contains("args") ? etape["args"] : Json::array();
+  AppelPrepare appel = op.prepare(args, Sous(lieu, "args"));
+  return EtapeCall{&op, std::move(appel), Snapshot(etape, lieu)};
+}
+
+// Tracks the place of each value while the text is parsed, to name a key given twice.
+class GardeDoublons {
+ public:
+  bool operator()(int, Json::parse_event_t evenement, Json& lu) {
+    using E = Json::parse_event_t;
+    switch (evenement) {
+      case E::object_start:
+      case E::array_start:
+        pile_.push_back({evenement == E::object_start, LieuSuivant(), {}, {}, 0});
+        break;
+      case E::key: {
+        auto& c = pile_.back();
+        const std::string cle = lu.get<std::string>();
+        if (!c.cles.insert(cle).second) throw ErreurCas(Sous(c.lieu, cle), "key given twice");
+        c.cle = cle;
+        break;
+      }
+      case E::object_end:
+      case E::array_end:
+        pile_.pop_back();
+        Avance();
+        break;
+      case E::value:
+        Avance();
+        break;
+    }
+    return true;
+  }
+
+ private:
+  struct Cadre {
+    bool objet;
+    std::string lieu;
+    std::set<std::string> cles;
+    std::string cle;
+    std::size_t indice;
+  };
+  std::string LieuSuivant() const {
+    if (pile_.empty()) return "";
+    const auto& c = pile_.back();
+    return c.objet ? Sous(c.lieu, c.cle) : Indice(c.lieu, c.indice);
+  }
+  void Avance() {
+    if (!pile_.empty() && !pile_.back().objet) ++pile_.back().indice;
+  }
+  std::vector<Cadre> pile_;
+};
+
+}  // namespace
+
+Json LitTexteJson(const std::string& texte, const std::string& nomEntree) {
+  if (texte.find_first_not_of(" \t\r\n") == std::string::npos)
+    throw ErreurCas(nomEntree, "empty input");
+  try {
+    return Json::parse(texte, GardeDoublons());
+  } catch (const Json::exception& e) {
+    // A syntax error, or a number too large for a double (1e999).
+    std::string message = e.what();
+    // "[json.exception.parse_error.101] parse error at line 1, ...": the part after the tag.
+    if (const auto fin = message.find("] "); message.rfind("[json.exception.", 0) == 0 &&
+                                              fin != std::string::npos)
+      message = message.substr(fin + 2);
+    throw ErreurCas(nomEntree, "not JSON: " + message);
+  }
+}
+
+Cas LitCas(const Json& j) {
+  if (!j.is_object()) throw ErreurCas("", "a case is a JSON object, got " + Decrit(j));
+  for (const auto& [cle, v] : j.items()) {
+    (void)v;
+    if (cle != "engine" && cle != "gPeriodeEncours" && cle != "sources" && cle != "salarie" &&
+        cle != "steps")
+      throw ErreurCas(cle, "unknown key (engine, gPeriodeEncours, sources, salarie, steps)");
+  }
+  Cas cas;
+  if (j.contains("engine")) {
+    const std::string moteur = LitTexte(j["engine"], "engine");
+    if (moteur == "MethodeCalculG_Nouv") cas.moteur = TypeMoteur::Nouv;
+    else if (moteur == "MethodeCalculG") cas.moteur = TypeMoteur::Histo;
+    else throw ErreurCas("engine", "unknown engine '" + moteur + "' (MethodeCalculG_Nouv or MethodeCalculG)");
+  }
+  if (j.contains("gPeriodeEncours")) cas.gPeriodeEncours = LitTexte(j["gPeriodeEncours"], "gPeriodeEncours");
+  if (j.contains("sources")) cas.sources = LitSources(j["sources"], "sources", cas.moteur);
+  if (j.contains("salarie")) cas.salarie = LitChamps<VarCalculSalarie>(j["salarie"], "salarie");
+  if (j.contains("steps")) {
+    const Json& etapes = j["steps"];
+    if (!etapes.is_array()) throw ErreurCas("steps", "expected an array of steps, got " + Decrit(etapes));
+    bool calcVu = false;
+    for (std::size_t i = 0; i < etapes.size(); ++i)
+      cas.etapes.push_back(LitEtape(etapes[i], Indice("steps", i), cas.moteur, calcVu));
+  }
+  return cas;
+}
+
+}  // namespace orvalis::tools

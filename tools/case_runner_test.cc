@@ -1,0 +1,169 @@
+#include "tools/case_runner.h"
+
+#include <set>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "tools/command_line.h"
+
+namespace orvalis::tools {
+namespace {
+
+struct Issue {
+  int statut;
+  std::string sortie;
+  std::string erreurs;
+};
+
+Issue Lance(const std::string& texte) {
+  std::ostringstream sortie, erreurs;
+  const int statut = LanceCas(texte, "case.json", sortie, erreurs);
+  return {statut, sortie.str(), erreurs.str()};
+}
+
+Json Sortie(const std::string& texte) {
+  const Issue i = Lance(texte);
+  EXPECT_EQ(i.statut, 0) << i.erreurs;
+  EXPECT_EQ(i.erreurs, "");
+  return Json::parse(i.sortie);
+}
+
+TEST(CaseRunnerTest, OutputHasItsFourKeysInOrder) {
+  const Json j = Sortie(R"({"gPeriodeEncours": "01/03/2024"})");
+  std::vector<std::string> cles;
+  for (const auto& [k, v] : j.items()) cles.push_back(k);
+  EXPECT_EQ(cles, (std::vector<std::string>{"steps", "salarie", "engine", "messages"}));
+  EXPECT_EQ(j["engine"].dump(),
+            R"({"gPeriodeEncours":"01/03/2024","gdSmicMensuel":0,"iTauxTptNonSubroge":0})");
+  EXPECT_EQ(j["salarie"].size(), Champs<VarCalculSalarie>().size());
+}
+
+TEST(CaseRunnerTest, DoublesComeBackAsTheSameDouble) {
+  const Json j = Sortie(R"({"salarie": {"dHeuresMois": 0.30000000000000004, "dTauxPoste": 1e-7,
+                                         "iEnfant_ACharge": -32768}})");
+  EXPECT_EQ(j["salarie"]["dHeuresMois"].get<double>(), 0.1 + 0.2);
+  EXPECT_EQ(j["salarie"]["dTauxPoste"].get<double>(), 1e-7);
+  EXPECT_EQ(j["salarie"]["iEnfant_ACharge"].get<int>(), -32768);
+}
+
+TEST(CaseRunnerTest, AnErrorPrintsOneLineAndNothingOnTheOutput) {
+  const Issue i = Lance(R"({"steps": [{"set": {"dHeuresMois": 1}},
+                                      {"calc": "MONTANT FIXE", "rubrique": {"dBasee": 1}}]})");
+  EXPECT_EQ(i.statut, 2);
+  EXPECT_EQ(i.sortie, "");
+  EXPECT_EQ(i.erreurs, "steps[1].rubrique.dBasee: SalarieCalculRubrique has no field 'dBasee'\n");
+}
+
+TEST(CaseRunnerTest, TextErrorsNameTheInput) {
+  EXPECT_EQ(Lance(" \n").erreurs, "case.json: empty input\n");
+  EXPECT_EQ(Lance("{").erreurs.rfind("case.json: not JSON: parse error at line 1", 0), 0u);
+  EXPECT_EQ(Lance(R"({"steps": [{"calc": "A", "calc": "B"}]})").erreurs,
+            "steps[0].calc: key given twice\n");
+  EXPECT_EQ(Lance(R"({"salarie": {"a": 1}, "salarie": {}})").erreurs, "salarie: key given twice\n");
+}
+
+TEST(CaseRunnerTest, InOutArgumentsComeBackInSignatureOrder) {
+  const Json j = Sortie(R"({"steps": [
+      {"call": "CoefficientsCPA", "args": ["CP", "01/01/2021", "31/12/2021", 1, 2, 3]},
+      {"call": "CoefficientsCPA", "args": ["XX", "01/01/2021", "31/12/2021", 1, 2, "$absent"]},
+      {"call": "MajDateEnFormatChaine", "args": ["15/03/2021"]}]})");
+  EXPECT_EQ(j["steps"][0].dump(), R"({"result":null,"out":[0.5,0.5,50]})");
+  EXPECT_EQ(j["steps"][1].dump(), R"({"result":null,"out":[1,2,null]})");
+  EXPECT_EQ(j["steps"][2].dump(), R"({"result":"20210315","out":["15/03/2021"]})");
+}
+
+TEST(CaseRunnerTest, RubriqueBeforeAnyCalcIsOneSharedRecord) {
+  const Json j = Sortie(R"({"steps": [
+      {"call": "CalculRubrique_Prelevement_a_la_source", "args": ["$salarie", "$rubrique", null]},
+      {"calc": "NOM INCONNU", "rubrique": {"dBase": 5}},
+      {"calc": "NOM INCONNU", "rubrique": {"dTauxSalarial": 2}, "keep_rubrique": true},
+      {"calc": "NOM INCONNU", "rubrique": {"dTauxSalarial": 3}}]})");
+  EXPECT_TRUE(j["steps"][0].contains("rubrique"));
+  EXPECT_EQ(j["steps"][2]["rubrique"]["dBase"].get<double>(), 5.0);
+  EXPECT_EQ(j["steps"][2]["rubrique"]["dTauxSalarial"].get<double>(), 2.0);
+  EXPECT_EQ(j["steps"][3]["rubrique"]["dBase"].get<double>(), 0.0);
+}
+
+TEST(CaseRunnerTest, FaultOfADirectCallIsItsResult) {
+  const Json j = Sortie(R"({"steps": [{"call": "Arrondi", "args": [1, -1], "snapshot": true}]})");
+  ASSERT_TRUE(j["steps"][0].contains("fault"));
+  EXPECT_FALSE(j["steps"][0].contains("result"));
+  EXPECT_TRUE(j["steps"][0].contains("salarie"));
+}
+
+TEST(CallTableTest, EachNameHasOneRowPerEngine) {
+  std::set<std::pair<std::string, unsigned>> vus;
+  for (const auto& op : TableDesAppels()) {
+    for (unsigned m : {unsigned(kNouv), unsigned(kHisto)}) {
+      if (op.moteurs & m) {
+        EXPECT_TRUE(vus.insert({op.nom, m}).second) << op.nom;
+      }
+    }
+  }
+}
+
+TEST(CallTableTest, CoversTheOperationsAHostCalls) {
+  const char* noms[] = {
+      "Appel_Methode_Preparation_Calcul_General", "Appel_Methode_Calcul_General",
+      "CalculPrelevementALaSource_Tauxold", "CalculPrelevementALaSource_CasParticulierElu",
+      "CalculRechercheJourDebutEtJourFin", "CalculRubrique_Prelevement_a_la_source",
+      "dRechercheValeur_Constantes", "RechercheValeurType_Constantes", "dRechercheValeurTaux",
+      "dRechercheValeurCumul", "dRechercheValeurCumulRappel", "dRechercheValeur_Variable",
+      "dRechercheDate_Variable", "dRechercheValeur_VariableBis", "dRecherchePointMois",
+      "dRechercheValeurConstanteHistorique", "dRechercheValeurCumulHistorique",
+      "dRechercheHeuresMoisHistorique", "dRecherchePointHistorique", "dRechercheIndMinHistorique",
+      "dRechercheHistoriqueMois", "dRechercheSmicHistorique", "RechercheValeursListeCumul",
+      "RechercheValeurBase", "RechercheValeurCoefficient", "RechercheValeurTauxSalarial",
+      "RechercheValeurTauxPatronal", "Arrondi", "dTronqueAuPas", "dTronqueDecimales",
+      "sNormaliseDecimale", "MajDateEnFormatChaine", "MajChaineEnFormatDate", "iNbJoursBase30",
+      "iNbJoursBase30Commun", "iNbJoursCommunsMois", "bJourOuvre", "iNbJoursOuvresAnnee",
+      "CoefficientsCPA"};
+  for (const char* nom : noms) {
+    bool trouve = false;
+    for (const auto& op : TableDesAppels()) trouve = trouve || op.nom == nom;
+    EXPECT_TRUE(trouve) << nom;
+  }
+}
+
+TEST(CallTableTest, TheHistoricEngineHasOnlyWhatItsClassHas) {
+  const auto erreurs = [](const std::string& op) {
+    return Lance(R"({"engine": "MethodeCalculG", "steps": [{"call": ")" + op + R"(", "args": []}]})")
+        .erreurs;
+  };
+  EXPECT_EQ(erreurs("MajDateEnFormatChaine"),
+            "steps[0].call: MethodeCalculG has no operation 'MajDateEnFormatChaine'\n");
+  EXPECT_EQ(erreurs("RechercheValeurBase"),
+            "steps[0].call: MethodeCalculG has no operation 'RechercheValeurBase'\n");
+  EXPECT_EQ(erreurs("Arrondi"), "steps[0].args: Arrondi(double, 16-bit integer) takes 2 arguments, got 0\n");
+  EXPECT_EQ(erreurs("Appel_Methode_Preparation_Calcul_General"),
+            "steps[0].args: Appel_Methode_Preparation_Calcul_General(text, VarCalculSalarie) takes "
+            "2 arguments, got 0\n");
+}
+
+TEST(CommandLineTest, VersionHelpAndUsage) {
+  std::istringstream entree;
+  std::ostringstream sortie, erreurs;
+  EXPECT_EQ(Principal({"--version"}, entree, sortie, erreurs), 0);
+  EXPECT_EQ(sortie.str(), "orvalis 0.1.0\n");
+  EXPECT_EQ(Principal({"--help"}, entree, sortie, erreurs), 0);
+  EXPECT_EQ(erreurs.str(), "");
+  EXPECT_EQ(Principal({}, entree, sortie, erreurs), 2);
+  EXPECT_EQ(Principal({"lance", "x.json"}, entree, sortie, erreurs), 2);
+  EXPECT_EQ(Principal({"run"}, entree, sortie, erreurs), 2);
+  EXPECT_NE(erreurs.str().find("usage: orvalis run CASE.json"), std::string::npos);
+}
+
+TEST(CommandLineTest, RunReadsStandardInputAndFiles) {
+  std::istringstream entree(R"({"steps": [{"call": "Arrondi", "args": [2.5, 0]}]})");
+  std::ostringstream sortie, erreurs;
+  EXPECT_EQ(Principal({"run", "-"}, entree, sortie, erreurs), 0);
+  EXPECT_EQ(Json::parse(sortie.str())["steps"][0]["result"].get<double>(), 3.0);
+  std::ostringstream sortie2, erreurs2;
+  EXPECT_EQ(Principal({"run", "/nonexistent/case.json"}, entree, sortie2, erreurs2), 2);
+  EXPECT_EQ(sortie2.str(), "");
+  EXPECT_EQ(erreurs2.str(), "/nonexistent/case.json: cannot read: No such file or directory\n");
+}
+
+}  // namespace
+}  // namespace orvalis::tools

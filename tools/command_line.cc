@@ -1,0 +1,99 @@
+#include "tools/command_line.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <istream>
+#include <iterator>
+#include <ostream>
+
+#include "tools/case_runner.h"
+#include "tools/version.h"
+
+namespace orvalis::tools {
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: orvalis run CASE.json\n"
+    "       orvalis run -\n"
+    "       orvalis --help\n"
+    "       orvalis --version\n";
+
+constexpr const char* kAide =
+    "orvalis: runs a case file through the Orvalis payroll engine.\n"
+    "\n"
+    "  orvalis run CASE.json   run the case and print what the engine wrote, as JSON\n"
+    "  orvalis run -           read the case from standard input\n"
+    "  orvalis --help          print this help\n"
+    "  orvalis --version       print the version\n"
+    "\n"
+    "A case sets the engine's sources and the employee record, then runs its steps\n"
+    "(prepare, calc, set, sources, call) on one engine object. Exit status: 0 when the\n"
+    "case ran, whatever the engine returned; 2 when the case or the command line is\n"
+    "wrong, with one line on standard error and nothing on standard output.\n"
+    "The format of case files: docs/case-files.md.\n";
+
+int Usage(std::ostream& erreurs, const std::string& probleme) {
+  erreurs << "orvalis: " << probleme << '\n' << kUsage;
+  return 2;
+}
+
+bool LitFichier(const std::string& chemin, std::string& texte, std::string& erreur) {
+  std::FILE* f = std::fopen(chemin.c_str(), "rb");
+  if (f == nullptr) {
+    erreur = std::strerror(errno);
+    return false;
+  }
+  char tampon[65536];
+  std::size_t n;
+  while ((n = std::fread(tampon, 1, sizeof tampon, f)) > 0) texte.append(tampon, n);
+  const bool ok = !std::ferror(f);
+  if (!ok) erreur = std::strerror(errno);
+  std::fclose(f);
+  return ok;
+}
+
+}  // namespace
+
+int Principal(const std::vector<std::string>& arguments, std::istream& entree,
+              std::ostream& sortie, std::ostream& erreurs) {
+  if (arguments.empty()) return Usage(erreurs, "no command");
+  const std::string& commande = arguments[0];
+  if (commande == "--help" || commande == "-h" || commande == "help") {
+    if (arguments.size() != 1) return Usage(erreurs, "--help takes no argument");
+    sortie << kAide << kUsage;
+    return 0;
+  }
+  if (commande == "--version") {
+    if (arguments.size() != 1) return Usage(erreurs, "--version takes no argument");
+    sortie << "orvalis " << Version() << '\n';
+    return 0;
+  }
+  if (commande != "run") return Usage(erreurs, "unknown command '" + commande + "'");
+  if (arguments.size() == 2 && (arguments[1] == "--help" || arguments[1] == "-h")) {
+    sortie << kAide << kUsage;
+    return 0;
+  }
+  if (arguments.size() != 2) return Usage(erreurs, "run takes one case file, or - for standard input");
+
+  const std::string& chemin = arguments[1];
+  std::string texte;
+  if (chemin == "-") {
+    texte.assign(std::istreambuf_iterator<char>(entree), std::istreambuf_iterator<char>());
+    if (entree.bad()) {
+      erreurs << "-: cannot read standard input\n";
+      return 2;
+    }
+    return LanceCas(texte, "-", sortie, erreurs);
+  }
+  if (!chemin.empty() && chemin[0] == '-') return Usage(erreurs, "unknown option '" + chemin + "'");
+  std::string erreur;
+  if (!LitFichier(chemin, texte, erreur)) {
+    erreurs << chemin << ": cannot read: " << erreur << '\n';
+    return 2;
+  }
+  return LanceCas(texte, chemin, sortie, erreurs);
+}
+
+}  // namespace orvalis::tools
