@@ -58,8 +58,9 @@ bool CouvreMois(const std::optional<Date>& dDebut, Date dMois, const std::option
   return DiffMois(*dDebut, dMois) >= 0 && DiffMois(dMois, *dFin) >= 0;
 }
 
-// Months in a period by sEluPeriodicite: 2 quarterly, 3 half-yearly, 4 yearly; 0 stands for
-// a monthly official (1, or any other number).
+// Months in a period by sEluPeriodicite: 2 quarterly, 3 half-yearly, 4 yearly. A monthly
+// official (1) has no such period; any other number has a period of no month at all, which
+// gives no allowance.
 int MoisDeLaPeriode(double dPeriodicite) {
   if (dPeriodicite == 2) return 3;
   if (dPeriodicite == 3) return 6;
@@ -90,7 +91,9 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(
   Recordset& rsDetail = *Rubrique.rsPrelevementSourceElus;
 
   const Date dPeriode = LireDate(gPeriodeEncours);
-  const int iMoisPeriode = MoisDeLaPeriode(Value(InfosSalaries.sEluPeriodicite).Nombre());
+  const double dPeriodicite = Value(InfosSalaries.sEluPeriodicite).Nombre();
+  const bool bMensuel = dPeriodicite == 1;
+  const int iMoisPeriode = MoisDeLaPeriode(dPeriodicite);
   const bool bDernierMoisContrat =
       !InfosSalaries.sDateFin.empty() &&
       Droite(InfosSalaries.sDateFin, 7) == Droite(gPeriodeEncours, 7);
@@ -110,7 +113,7 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(
   }
 
   Int16 iNbMois = 1;
-  if (iMoisPeriode > 0) {
+  if (!bMensuel) {
     // A mandate begun within this period counts from its first month.
     const Date dDebut = LireDate(InfosSalaries.sDateDebut);
     const long lEcart = DiffMois(dDebut, dPeriode);
@@ -192,7 +195,7 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(
   if (InfosSalaries.bEluNonEligibleAbatFraisEmploi) return 0;
 
   double dAbattementTotal = 0;
-  if (iMoisPeriode == 0) {
+  if (bMensuel) {
     dAbattementTotal = iMoisMultiples > 0 ? dAbattementMultiple : dAbattementUnique;
   } else {
     if (iNbMois <= 0) return 0;

@@ -42,15 +42,19 @@ class FiltreBareme {
 };
 
 // Prorata of the monthly scale from the days of presence: an official paid on a longer
-// period is prorated on the days of that period.
-double ProrataPresence(const VarCalculSalarie& InfosSalaries, Int16 iJoursPresence) {
+// period is prorated on the days of that period. The days of a recall join the presence only
+// on the monthly path, so their 16-bit sum is only made there.
+double ProrataPresence(const VarCalculSalarie& InfosSalaries, bool bAvecRappel) {
   const std::string sPeriodicite =
       InfosSalaries.sEluPeriodicite.empty() ? std::string("1") : InfosSalaries.sEluPeriodicite;
   const double dPeriodicite = Value(sPeriodicite).Nombre();
   if (InfosSalaries.sCodeCategorie == "ELUS" && dPeriodicite != 1) {
     return InfosSalaries.iNBJ_Presence_Total_Periode_Elus / 30;
   }
-  return iJoursPresence / 30;
+  if (bAvecRappel) {
+    return (InfosSalaries.iNBJ_Presence_Total + InfosSalaries.iNBJ_Presence_Total_Rappel) / 30;
+  }
+  return InfosSalaries.iNBJ_Presence_Total / 30;
 }
 
 // One side of a bracket test; a null bound holds for nothing.
@@ -100,8 +104,7 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_Taux(VarCalculSalarie& In
 
   double dProrata = 1;
   if (InfosSalaries.sTypeBareme == "MM") {
-    dProrata = ProrataPresence(
-        InfosSalaries, InfosSalaries.iNBJ_Presence_Total + InfosSalaries.iNBJ_Presence_Total_Rappel);
+    dProrata = ProrataPresence(InfosSalaries, true);
     const bool bDatesRappel =
         !InfosSalaries.sDateDebutRappel.empty() && !InfosSalaries.sDateFinRappel.empty();
     if (dProrata == 0 && bDatesRappel) {
@@ -140,7 +143,7 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_Tauxold(VarCalculSalarie&
       FiltreBareme filtre(rsBareme, InfosSalaries.sTypeBareme);
       double dProrata = 1;
       if (InfosSalaries.sTypeBareme == "MM") {
-        dProrata = ProrataPresence(InfosSalaries, InfosSalaries.iNBJ_Presence_Total);
+        dProrata = ProrataPresence(InfosSalaries, false);
       }
       if (TrouveTauxNeutre(rsBareme, dProrata, dBase, dTaux)) {
         sDesignationRubrique += " - Taux neutre";

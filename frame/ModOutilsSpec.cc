@@ -2,6 +2,7 @@
 #include "orvalis/ModOutilsSpec.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -23,22 +24,52 @@ char cAutreSeparateur = ',';
 namespace {
 
 // The 15 significant digits of |d|, rounded at the fifteenth, and the decimal exponent of
-// the first one: 100.99999999999999 gives "101000000000000" and 2.
+// the first one: 100.99999999999999 gives "101000000000000" and 2. `chiffres` receives
+// exactly 15 characters.
+void Chiffres15(double d, char (&chiffres)[15], int& exposant) {
+  char buf[32];
+  const auto fin = std::to_chars(buf, buf + sizeof buf, std::fabs(d), std::chars_format::scientific, 14).ptr;
+  // buf holds "d.dddddddddddddde[+-]xx".
+  chiffres[0] = buf[0];
+  std::copy(buf + 2, buf + 16, chiffres + 1);
+  const char* e = buf + 17;
+  if (*e == '+') ++e;
+  std::from_chars(e, fin, exposant);
+}
+
 void Chiffres15(double d, std::string& chiffres, int& exposant) {
-  char buf[64];
-  std::snprintf(buf, sizeof buf, "%.14e", std::fabs(d));
-  const std::string t(buf);
-  const std::size_t e = t.find('e');
-  chiffres = t.substr(0, 1) + t.substr(2, e - 2);
-  exposant = std::atoi(t.c_str() + e + 1);
+  char c[15];
+  Chiffres15(d, c, exposant);
+  chiffres.assign(c, c + 15);
 }
 
 // The double nearest to the decimal digits * 10^-echelle.
-double DepuisDecimal(const std::string& chiffres, int echelle) {
-  const std::string t = chiffres + "e-" + std::to_string(echelle);
+double DepuisDecimal(const char* chiffres, std::size_t n, int echelle) {
+  char buf[64];
+  std::copy(chiffres, chiffres + n, buf);
+  char* p = buf + n;
+  *p++ = 'e';
+  *p++ = '-';
+  p = std::to_chars(p, buf + sizeof buf, echelle).ptr;
   double d = 0;
-  std::from_chars(t.data(), t.data() + t.size(), d);
+  std::from_chars(buf, p, d);
   return d;
+}
+
+// The unit of a rounding to `places` places, built as its text ("1", "0.01", ...) and read
+// back through the separators: kept once built, since it depends on the count alone.
+double UniteArrondi(int places) {
+  auto construit = [](int n) {
+    const std::string unite = n == 0 ? "1" : "0." + std::string(n - 1, '0') + "1";
+    return Value(sNormaliseDecimale(unite)).Nombre();
+  };
+  constexpr int kCache = 32;
+  static const auto unites = [&] {
+    std::array<double, kCache> u{};
+    for (int n = 0; n < kCache; ++n) u[n] = construit(n);
+    return u;
+  }();
+  return places < kCache ? unites[places] : construit(places);
 }
 
 // The largest value of the 28-digit decimal.
@@ -72,26 +103,28 @@ std::string TexteNombre(double d) {
 double Arrondi(double vValeur, Int16 iNbDecimales) {
   const int places = iNbDecimales.value();
   if (places < 0) Faute("invalid procedure call or argument");
-  const std::string unite = places == 0 ? "1" : "0." + std::string(places - 1, '0') + "1";
-  const double dUnite = Value(sNormaliseDecimale(unite)).Nombre();
+  const double dUnite = UniteArrondi(places);
 
   const double somme = Div(std::fabs(vValeur), dUnite) + 0.5;
   if (!std::isfinite(somme) || somme >= kDecimalMax) Faute("overflow");
-  std::string chiffres;
+  char chiffres[15];
   int exposant = 0;
   Chiffres15(somme, chiffres, exposant);
-  // Integer part of the 15-digit decimal.
-  std::string entier;
-  if (exposant < 0) {
-    entier = "0";
-  } else if (exposant < 15) {
-    entier = chiffres.substr(0, static_cast<std::size_t>(exposant) + 1);
+  // Integer part of the 15-digit decimal, then times the unit as a decimal (exactly
+  // 10^-places; past 28 places it is 0).
+  if (exposant < 0 || places > kEchelleMax) return 0.0;
+  char entier[64];
+  std::size_t n = 0;
+  if (exposant < 15) {
+    n = static_cast<std::size_t>(exposant) + 1;
+    std::copy(chiffres, chiffres + n, entier);
   } else {
-    entier = chiffres + std::string(static_cast<std::size_t>(exposant) - 14, '0');
+    std::copy(chiffres, chiffres + 15, entier);
+    n = static_cast<std::size_t>(exposant) + 1;
+    std::fill(entier + 15, entier + n, '0');
   }
-  // The unit as a decimal is exactly 10^-places; past 28 places it is 0.
-  if (places > kEchelleMax || entier.find_first_not_of('0') == std::string::npos) return 0.0;
-  const double r = DepuisDecimal(entier, places);
+  if (std::all_of(entier, entier + n, [](char c) { return c == '0'; })) return 0.0;
+  const double r = DepuisDecimal(entier, n, places);
   return vValeur < 0 ? -r : r;
 }
 

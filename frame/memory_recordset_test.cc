@@ -253,9 +253,9 @@ TEST(MemoryRecordsetFilter, CriterionThatFaultsLeavesThePresentFilter) {
 
 // ---- Criteria -------------------------------------------------------------------------------
 
-class Criteres : public ::testing::Test {
+class MemoryRecordsetCriteres : public ::testing::Test {
  protected:
-  Criteres()
+  MemoryRecordsetCriteres()
       : rs(Table({"Code", "Mois", "Id", "Flag"},
                  {{"A", "202401", 5.0, true},
                   {"B", "202402", 6.0, false},
@@ -269,55 +269,55 @@ class Criteres : public ::testing::Test {
   RsRef rs;
 };
 
-TEST_F(Criteres, QuotedTextIsExactAndCaseSensitive) {
+TEST_F(MemoryRecordsetCriteres, QuotedTextIsExactAndCaseSensitive) {
   EXPECT_EQ(Codes("Code = 'A'"), (V{"A"}));
   EXPECT_EQ(Codes("Code = 'a'"), (V{"a"}));
   EXPECT_EQ(Codes("Code = 'A '"), V{});
 }
 
-TEST_F(Criteres, DoubledQuoteStandsForAQuote) {
+TEST_F(MemoryRecordsetCriteres, DoubledQuoteStandsForAQuote) {
   EXPECT_EQ(Codes("Code = 'l''agent'"), (V{"l'agent"}));
 }
 
-TEST_F(Criteres, BareNumberFindsNumbersAndNumericTexts) {
+TEST_F(MemoryRecordsetCriteres, BareNumberFindsNumbersAndNumericTexts) {
   EXPECT_EQ(Codes("Mois = 202402"), (V{"B", "C"}));
   EXPECT_EQ(Codes("Id = 7"), (V{"C"}));
   EXPECT_EQ(Codes("Id = 8.5"), (V{"l'agent"}));
   EXPECT_EQ(Codes("Id = -3"), (V{"a"}));
 }
 
-TEST_F(Criteres, QuotedTextFindsTheTextOfANumber) {
+TEST_F(MemoryRecordsetCriteres, QuotedTextFindsTheTextOfANumber) {
   EXPECT_EQ(Codes("Id = '5'"), (V{"A"}));
   EXPECT_EQ(Codes("Mois = '202402'"), (V{"B", "C"}));
   EXPECT_EQ(Codes("Id = '5.0'"), V{});
 }
 
-TEST_F(Criteres, BooleansAnswerToNumbers) {
+TEST_F(MemoryRecordsetCriteres, BooleansAnswerToNumbers) {
   EXPECT_EQ(Codes("Flag = 1"), (V{"A", "l'agent"}));
   EXPECT_EQ(Codes("Flag = -1"), (V{"A", "l'agent"}));
   EXPECT_EQ(Codes("Flag = 0"), (V{"B", "a"}));
   EXPECT_EQ(Codes("Flag = 'True'"), (V{"A", "l'agent"}));
 }
 
-TEST_F(Criteres, NullNeverMatches) {
+TEST_F(MemoryRecordsetCriteres, NullNeverMatches) {
   EXPECT_EQ(Codes("Mois = ''"), V{});
   EXPECT_EQ(Codes("Flag = 0 Or Flag = 1"), (V{"A", "B", "l'agent", "a"}));
 }
 
-TEST_F(Criteres, AndBindsTighterThanOr) {
+TEST_F(MemoryRecordsetCriteres, AndBindsTighterThanOr) {
   // A Or (B-month And Id 7): C alone passes the And.
   EXPECT_EQ(Codes("Code = 'A' Or Mois = 202402 And Id = 7"), (V{"A", "C"}));
   EXPECT_EQ(Codes("Mois = 202402 And Id = 7 Or Code = 'A'"), (V{"A", "C"}));
   EXPECT_EQ(Codes("(Code = 'A' Or Mois = 202402) And Id = 7"), (V{"C"}));
 }
 
-TEST_F(Criteres, KeywordsAndColumnsInAnyCase) {
+TEST_F(MemoryRecordsetCriteres, KeywordsAndColumnsInAnyCase) {
   EXPECT_EQ(Codes("code = 'A' OR CODE = 'B'"), (V{"A", "B"}));
   EXPECT_EQ(Codes("MOIS = 202402 aNd iD = 6"), (V{"B"}));
   EXPECT_EQ(Codes("Code = 'A' or Code = 'C'"), (V{"A", "C"}));
 }
 
-TEST_F(Criteres, BlanksAreOptionalAroundPieces) {
+TEST_F(MemoryRecordsetCriteres, BlanksAreOptionalAroundPieces) {
   EXPECT_EQ(Codes(" Mois = '202401'"), (V{"A"}));
   EXPECT_EQ(Codes("Code = 'B'OR Code = 'A'"), (V{"A", "B"}));
   EXPECT_EQ(Codes("Code='A'Or Code='B'"), (V{"A", "B"}));
@@ -325,11 +325,11 @@ TEST_F(Criteres, BlanksAreOptionalAroundPieces) {
   EXPECT_EQ(Codes("Mois = 202401And Code = 'A'"), (V{"A"}));
 }
 
-TEST_F(Criteres, OrWithRepeatedRowsGivesEachRowOnce) {
+TEST_F(MemoryRecordsetCriteres, OrWithRepeatedRowsGivesEachRowOnce) {
   EXPECT_EQ(Codes("Code = 'A' Or Id = 5 Or Code = 'B'"), (V{"A", "B"}));
 }
 
-TEST_F(Criteres, UnreadableCriterionIsAFault) {
+TEST_F(MemoryRecordsetCriteres, UnreadableCriterionIsAFault) {
   for (const char* c : {"Code = ", "Code 'A'", "Code = 'A", "= 'A'", "Code = 'A' And",
                         "Code = 'A' Xor Code = 'B'", "Id = 12abc", "Id = 1.2.3", "(Code = 'A'",
                         "Code = 'A')", "Code == 'A'", "Code = A", "And = 'A'", "0"}) {
@@ -338,7 +338,7 @@ TEST_F(Criteres, UnreadableCriterionIsAFault) {
   EXPECT_EQ(TexteFaute([&] { rs->Filter("Code = "); }), "unreadable filter criterion: Code = ");
 }
 
-TEST_F(Criteres, UnknownColumnIsAFaultEvenInAnOrBranch) {
+TEST_F(MemoryRecordsetCriteres, UnknownColumnIsAFaultEvenInAnOrBranch) {
   EXPECT_EQ(TexteFaute([&] { rs->Filter("Valeur = 1"); }), "filter on a missing column: Valeur");
   EXPECT_THROW(rs->Filter("Code = 'A' Or Valeur = 1"), Fault);
   EXPECT_THROW(rs->Filter("Code = 'Z' And Valeur = 1"), Fault);

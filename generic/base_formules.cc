@@ -116,7 +116,8 @@ double SmicMensuel(ContexteBase& c) {
   if (dTauxSmic > 0) {
     dMois = F(c, "HrsMois") * F(c, "SmicHor") * dTauxSmic / 100;
   } else {
-    const double dTauxHeures = Variable(c, "TXHEURES");
+    // Read through the plain lookup: rounded to the unit, unlike "TXSMIC" above.
+    const double dTauxHeures = c.m.dRechercheValeur_Variable(c.RsVarSalaries, "TXHEURES");
     if (dTauxHeures > 0) {
       // The employee's hourly rate stands in for the SMIC rate.
       dMois = F(c, "HrsMois") * dTauxHeures;

