@@ -189,6 +189,9 @@ template <> struct Param<int> : Entree<int> {};
 template <> struct Param<bool> : Entree<bool> {};
 template <> struct Param<std::string> : Entree<std::string> {};
 template <> struct Param<const std::string&> : Entree<std::string> {};
+template <> struct Param<const double&> : Entree<double> {};
+template <> struct Param<const Int16&> : Entree<Int16> {};
+template <> struct Param<const Int32&> : Entree<Int32> {};
 template <> struct Param<double&> : EntreeSortie<double> {};
 template <> struct Param<Int16&> : EntreeSortie<Int16> {};
 template <> struct Param<Int32&> : EntreeSortie<Int32> {};
@@ -198,6 +201,8 @@ template <> struct Param<RsRef> : EntreeSource {};
 template <> struct Param<const RsRef&> : EntreeSource {};
 template <> struct Param<VarCalculSalarie&> : Record<VarCalculSalarie> {};
 template <> struct Param<SalarieCalculRubrique&> : Record<SalarieCalculRubrique> {};
+template <> struct Param<const VarCalculSalarie&> : Record<VarCalculSalarie> {};
+template <> struct Param<const SalarieCalculRubrique&> : Record<SalarieCalculRubrique> {};
 template <typename T> struct Param<std::optional<T>> : Optionnel<T> {};
 template <> struct Param<double*> : SortieOptionnelle {};
 
@@ -268,6 +273,13 @@ constexpr unsigned MoteursDe() {
 // A member operation of an engine class, or of their common base.
 template <typename C, typename R, typename... P>
 Operation Op(const char* nom, R (C::*f)(P...)) {
+  return appel::Construit<R, P...>(nom, appel::MoteursDe<C>(), [f](ContexteAppel& c, auto&&... a) -> R {
+    return (appel::Objet<C>(c).*f)(std::forward<decltype(a)>(a)...);
+  });
+}
+
+template <typename C, typename R, typename... P>
+Operation Op(const char* nom, R (C::*f)(P...) const) {
   return appel::Construit<R, P...>(nom, appel::MoteursDe<C>(), [f](ContexteAppel& c, auto&&... a) -> R {
     return (appel::Objet<C>(c).*f)(std::forward<decltype(a)>(a)...);
   });

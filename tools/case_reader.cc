@@ -137,7 +137,8 @@ Etape LitEtape(const Json& etape, const std::string& lieu, TypeMoteur m, bool& c
   return EtapeCall{&op, std::move(appel), Snapshot(etape, lieu)};
 }
 
-// Tracks the place of each value while the text is parsed, to name a key given twice.
+// Tracks where the parser stands, to name a key given twice. The path is spelled out only
+// for the error, so that a deeply nested text costs no more than its depth.
 class GardeDoublons {
  public:
   bool operator()(int, Json::parse_event_t evenement, Json& lu) {
@@ -145,13 +146,13 @@ class GardeDoublons {
     switch (evenement) {
       case E::object_start:
       case E::array_start:
-        pile_.push_back({evenement == E::object_start, LieuSuivant(), {}, {}, 0});
+        pile_.push_back({evenement == E::object_start, {}, {}, 0});
         break;
       case E::key: {
         auto& c = pile_.back();
-        const std::string cle = lu.get<std::string>();
-        if (!c.cles.insert(cle).second) throw ErreurCas(Sous(c.lieu, cle), "key given twice");
-        c.cle = cle;
+        std::string cle = lu.get<std::string>();
+        if (!c.cles.insert(cle).second) throw ErreurCas(Sous(Lieu(), cle), "key given twice");
+        c.cle = std::move(cle);
         break;
       }
       case E::object_end:
@@ -169,15 +170,16 @@ class GardeDoublons {
  private:
   struct Cadre {
     bool objet;
-    std::string lieu;
     std::set<std::string> cles;
     std::string cle;
     std::size_t indice;
   };
-  std::string LieuSuivant() const {
-    if (pile_.empty()) return "";
-    const auto& c = pile_.back();
-    return c.objet ? Sous(c.lieu, c.cle) : Indice(c.lieu, c.indice);
+  // The path of the innermost object or array.
+  std::string Lieu() const {
+    std::string lieu;
+    for (std::size_t i = 0; i + 1 < pile_.size(); ++i)
+      lieu = pile_[i].objet ? Sous(lieu, pile_[i].cle) : Indice(lieu, pile_[i].indice);
+    return lieu;
   }
   void Avance() {
     if (!pile_.empty() && !pile_.back().objet) ++pile_.back().indice;
