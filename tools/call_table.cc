@@ -130,6 +130,44 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculTauxHoraireSalarie", &N::CalculTauxHoraireSalarie),
       Op("dArbitrageJours", &N::dArbitrageJours),
 
+      // ---- Preparations reached by name, and the older forms of the day counts -------------
+      Op("CalculSalaireBaseHS", &N::CalculSalaireBaseHS),
+      Op("CalculSalaireBaseHS_Periode", &N::CalculSalaireBaseHS_Periode),
+      Op("CalculNombreJourDemiTraitement_NouvelleGestion",
+         &N::CalculNombreJourDemiTraitement_NouvelleGestion),
+      Op("CalculNombreJourDemiTraitement", &N::CalculNombreJourDemiTraitement),
+      Op("CalculNombreJourCPA_NouvelleGestion", &N::CalculNombreJourCPA_NouvelleGestion),
+      Op("CalculNombreJourCPA", &N::CalculNombreJourCPA),
+      Op("CalculNombreJourCFA_NouvelleGestion", &N::CalculNombreJourCFA_NouvelleGestion),
+      Op("CalculNombreJourCFA", &N::CalculNombreJourCFA),
+      Op("CalculNombreJourDetachement_NouvelleGestion",
+         &N::CalculNombreJourDetachement_NouvelleGestion),
+      Op("CalculNombreJourDetachement", &N::CalculNombreJourDetachement),
+      Op("CalculNombreJourDispoOffice_NouvelleGestion",
+         &N::CalculNombreJourDispoOffice_NouvelleGestion),
+      Op("CalculNombreJourDispoOffice", &N::CalculNombreJourDispoOffice),
+      Op("CalculNombreJourFormation_NouvelleGestion",
+         &N::CalculNombreJourFormation_NouvelleGestion),
+      Op("CalculNombreJourFormation", &N::CalculNombreJourFormation),
+      Op("CalculNombreJourCongeMaternite_NouvelleGestion",
+         &N::CalculNombreJourCongeMaternite_NouvelleGestion),
+      Op("CalculNombreJourCongeMaternite", &N::CalculNombreJourCongeMaternite),
+      Op("CalculNombreJourDetachementSansPension_NouvelleGestion",
+         &N::CalculNombreJourDetachementSansPension_NouvelleGestion),
+      Op("CalculNombreJourDetachementSansPension", &N::CalculNombreJourDetachementSansPension),
+      Op("CalculNombreJourMaintienTraitement", &N::CalculNombreJourMaintienTraitement),
+      Op("CalculNombreJourTptNonSubroge", &N::CalculNombreJourTptNonSubroge),
+
+      // ---- Generic pay lines reached by name -------------------------------------------------
+      Op("CalculRubrique_MontantFixe", &N::CalculRubrique_MontantFixe),
+      Op("CalculRubrique_MontantFixeAnnuel", &N::CalculRubrique_MontantFixeAnnuel),
+      Op("CalculRubrique_BaseProrata30", &N::CalculRubrique_BaseProrata30),
+      Op("CalculRubrique_BaseProrata30ADeduire", &N::CalculRubrique_BaseProrata30ADeduire),
+
+      // ---- Tax at source ---------------------------------------------------------------------
+      Op("dSeuilPrelevementSource", &N::dSeuilPrelevementSource),
+      Op("dNetAPayerAvantPAS", &N::dNetAPayerAvantPAS),
+
       // ---- Numeric and date utilities (both engines) -----------------------------------------
       Op("Arrondi", &Arrondi),
       Op("dTronqueAuPas", &dTronqueAuPas),

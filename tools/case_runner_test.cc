@@ -61,6 +61,8 @@ TEST(CaseRunnerTest, TextErrorsNameTheInput) {
   EXPECT_EQ(Lance(R"({"steps": [{"calc": "A", "calc": "B"}]})").erreurs,
             "steps[0].calc: key given twice\n");
   EXPECT_EQ(Lance(R"({"salarie": {"a": 1}, "salarie": {}})").erreurs, "salarie: key given twice\n");
+  EXPECT_EQ(Lance(R"({"steps": [{"set": {}}, {"call": "X", "args": [[{"A": 1, "A": 2}]]}]})").erreurs,
+            "steps[1].args[0][0].A: key given twice\n");
 }
 
 TEST(CaseRunnerTest, InOutArgumentsComeBackInSignatureOrder) {
