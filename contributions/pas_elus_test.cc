@@ -9,31 +9,8 @@ namespace {
 
 using pas_test::Constantes;
 using pas_test::Cumuls;
+using pas_test::Mandats;
 using pas_test::NbLignes;
-
-struct Mandat {
-  Value salaire;
-  Value nonEligible;
-  Value designation;
-  Value debut;
-  Value fin;
-  Value brute;
-};
-
-RsRef Mandats(std::initializer_list<Mandat> mandats) {
-  RsRef rs = NouveauRecordset({"Salaire", "EluNonEligibleAbatFraisEmploi", "Designation",
-                               "DateDebut", "DateFin", "MontantRemunerationBrute"});
-  for (const auto& md : mandats) {
-    rs->AddNew();
-    rs->SetField("Salaire", md.salaire);
-    rs->SetField("EluNonEligibleAbatFraisEmploi", md.nonEligible);
-    rs->SetField("Designation", md.designation);
-    rs->SetField("DateDebut", md.debut);
-    rs->SetField("DateFin", md.fin);
-    rs->SetField("MontantRemunerationBrute", md.brute);
-  }
-  return rs;
-}
 
 // One mandate allowance: 1000 x 6 x 10 % / 12 = 50 a month; 75 with several mandates.
 class PasElus : public ::testing::Test {
@@ -50,11 +27,7 @@ class PasElus : public ::testing::Test {
   }
   double Abattement() { return m.CalculPrelevementALaSource_CasParticulierElu(s, r); }
   Value Detail(std::size_t ligne, const char* colonne) {
-    const auto colonnes = r.rsPrelevementSourceElus->Columns();
-    for (std::size_t i = 0; i < colonnes.size(); ++i)
-      if (colonnes[i] == colonne) return r.rsPrelevementSourceElus->Rows().at(ligne).at(i);
-    ADD_FAILURE() << "no column " << colonne;
-    return Value();
+    return pas_test::Colonne(r.rsPrelevementSourceElus, ligne, colonne);
   }
 
   MethodeCalculG_Nouv m;

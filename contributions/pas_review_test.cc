@@ -17,31 +17,9 @@ using pas_test::Constantes;
 using pas_test::Cumuls;
 using pas_test::CumulsHistorique;
 using pas_test::IndemnitesJournalieres;
+using pas_test::Mandats;
 using pas_test::NbLignes;
 
-struct Autre {
-  Value salaire;
-  Value nonEligible;
-  Value designation;
-  Value debut;
-  Value fin;
-  Value brute;
-};
-
-RsRef AutresIndemnites(std::initializer_list<Autre> lignes) {
-  RsRef rs = NouveauRecordset({"Salaire", "EluNonEligibleAbatFraisEmploi", "Designation",
-                               "DateDebut", "DateFin", "MontantRemunerationBrute"});
-  for (const auto& l : lignes) {
-    rs->AddNew();
-    rs->SetField("Salaire", l.salaire);
-    rs->SetField("EluNonEligibleAbatFraisEmploi", l.nonEligible);
-    rs->SetField("Designation", l.designation);
-    rs->SetField("DateDebut", l.debut);
-    rs->SetField("DateFin", l.fin);
-    rs->SetField("MontantRemunerationBrute", l.brute);
-  }
-  return rs;
-}
 
 // Scale in fractions. The "T" and "MM" rows must never be read by a monthly employee: "MM"
 // reads the rows "M", prorated.
@@ -80,7 +58,7 @@ class PasReviewTest : public ::testing::Test {
     s.sDateDebut = "01/01/2020";
     s.sEluPeriodicite = "1";
     s.rsIndemnitesJournalieres = IndemnitesJournalieres({});
-    s.rsAutresIndemnites = AutresIndemnites({});
+    s.rsAutresIndemnites = Mandats({});
   }
 
   double Assiette(double dBase) { return m.CalculPrelevementALaSource_Assiette(s, dBase, r); }
@@ -92,11 +70,7 @@ class PasReviewTest : public ::testing::Test {
   void ExpectBaremeSansFiltre() { EXPECT_EQ(m.gRsBaremeTauxPAS->RecordCount(), kLignesBareme); }
 
   Value Detail(std::size_t ligne, const std::string& colonne) {
-    const auto colonnes = r.rsPrelevementSourceElus->Columns();
-    for (std::size_t i = 0; i < colonnes.size(); ++i)
-      if (colonnes[i] == colonne) return r.rsPrelevementSourceElus->Rows().at(ligne).at(i);
-    ADD_FAILURE() << "no column " << colonne;
-    return Value();
+    return pas_test::Colonne(r.rsPrelevementSourceElus, ligne, colonne);
   }
 
   MethodeCalculG_Nouv m;
@@ -536,7 +510,7 @@ TEST_F(PasReviewTest, QuarterWithAnotherMandateInJanuaryOnly) {
   // Multiple month: January. (3 - 1) x 50 + 1 x 75 = 175; 2000 / 2500 x 175 = 140.
   s.sEluPeriodicite = "2";
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2024", "31/01/2024", 500.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2024", "31/01/2024", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 140.0);
   ASSERT_EQ(NbLignes(r.rsPrelevementSourceElus), 2u);
   EXPECT_EQ(Detail(1, "NumeroOrdre"), Value(2));
@@ -554,7 +528,7 @@ TEST_F(PasReviewTest, QuarterWindowKeepsAMandateEndedTheMonthBefore) {
   // 3 x 50 = 150; 2000 / 2500 x 150 = 120. Ended in November: not in the period.
   s.sEluPeriodicite = "2";
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/06/2023", "31/12/2023", 500.0},
+      Mandats({{false, false, "Syndicat", "01/06/2023", "31/12/2023", 500.0},
                         {false, false, "Office", "01/06/2023", "30/11/2023", 700.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 120.0);
   ASSERT_EQ(NbLignes(r.rsPrelevementSourceElus), 2u);
@@ -564,7 +538,7 @@ TEST_F(PasReviewTest, QuarterWindowKeepsAMandateEndedTheMonthBefore) {
 TEST_F(PasReviewTest, MonthlyWindowKeepsAMandateEndedLastMonth) {
   // Ended in February: single allowance 50, borne 2000 / 2500: 40.
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "29/02/2024", 500.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2023", "29/02/2024", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 40.0);
   EXPECT_EQ(Detail(1, "FraisEmploiMandatUnique"), Value(50.0));
 }
@@ -572,10 +546,10 @@ TEST_F(PasReviewTest, MonthlyWindowKeepsAMandateEndedLastMonth) {
 TEST_F(PasReviewTest, MonthlyWithAnotherMandateRunning) {
   // 75 x 2000 / 2500 = 60; two running mandates count the month once: 75 x 2000 / 3000 = 50.
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 60.0);
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0},
+      Mandats({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0},
                         {false, false, "Office", "01/03/2024", "31/03/2024", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 50.0);
   ASSERT_EQ(NbLignes(r.rsPrelevementSourceElus), 3u);
@@ -587,7 +561,7 @@ TEST_F(PasReviewTest, NonEligibleAndSalaryRows) {
   // Not eligible: in the detail, out of the gross and of the multiple months.
   // A salary row: nowhere, and takes no number.
   s.rsAutresIndemnites =
-      AutresIndemnites({{true, false, "Salaire", "01/01/2023", "31/12/2026", 3000.0},
+      Mandats({{true, false, "Salaire", "01/01/2023", "31/12/2026", 3000.0},
                         {false, true, "Office", "01/01/2023", "31/12/2026", 500.0},
                         {false, false, "Syndicat", "01/01/2023", "31/01/2024", 400.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 50.0);
@@ -600,7 +574,7 @@ TEST_F(PasReviewTest, NonEligibleAndSalaryRows) {
 
 TEST_F(PasReviewTest, NullEndDateCountsNeitherWay) {
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", Value(), 500.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2023", Value(), 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 50.0);
   EXPECT_EQ(NbLignes(r.rsPrelevementSourceElus), 1u);
 }
@@ -609,7 +583,7 @@ TEST_F(PasReviewTest, OfficialNotEligibleHasAFullDetailAndNoAllowance) {
   s.bEluNonEligibleAbatFraisEmploi = true;
   m.gRsCumuls = Cumuls({{"BRUT", 0.0}});  // no division is made
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 0.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 0.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 0.0);
   ASSERT_EQ(NbLignes(r.rsPrelevementSourceElus), 2u);
   EXPECT_EQ(Detail(0, "EluNonEligibleAbatFraisEmploi"), Value(true));
@@ -619,7 +593,7 @@ TEST_F(PasReviewTest, OfficialNotEligibleHasAFullDetailAndNoAllowance) {
 TEST_F(PasReviewTest, FlatTaxAllowanceReplacesBothAllowances) {
   m.gRsConstantes = Constantes({{"INDMAJELU", 1000.0}, {"ELUABTFISC", 120.0}});
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 60.0);  // flag off: 75 x 0.8
   s.bAbattementFiscalElu = true;
   EXPECT_DOUBLE_EQ(Abattement(), 96.0);  // 120 x 0.8
@@ -633,7 +607,7 @@ TEST_F(PasReviewTest, NoGrossAtAllIsAZeroDivisor) {
   m.gRsCumuls = Cumuls({{"BRUT", 0.0}});
   EXPECT_THROW(Abattement(), Fault);
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0}});
+      Mandats({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 0.0);  // 0 / 500 x 75
 }
 
@@ -644,7 +618,7 @@ TEST_F(PasReviewTest, PeriodicityOutsideTheListHasNoMonthsAndNoAllowance) {
   s.sEluPeriodicite = "5";
   m.gRsCumuls = Cumuls({{"BRUT", 0.0}});
   s.rsAutresIndemnites =
-      AutresIndemnites({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 0.0},
+      Mandats({{false, false, "Syndicat", "01/01/2023", "31/12/2026", 0.0},
                         {false, false, "Office", "01/01/2023", "29/02/2024", 500.0}});
   EXPECT_DOUBLE_EQ(Abattement(), 0.0);
   // The window starts at the pay month itself: the mandate ended in February is out.

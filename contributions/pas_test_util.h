@@ -2,6 +2,8 @@
 #ifndef ORVALIS_CONTRIBUTIONS_PAS_TEST_UTIL_H_
 #define ORVALIS_CONTRIBUTIONS_PAS_TEST_UTIL_H_
 
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -104,6 +106,40 @@ inline RsRef IndemnitesJournalieres(std::initializer_list<Value> montants) {
     rs->SetField("IJPAS", m);
   }
   return rs;
+}
+
+// The elected official's mandates, one row each.
+struct Mandat {
+  Value salaire;
+  Value nonEligible;
+  Value designation;
+  Value debut;
+  Value fin;
+  Value brute;
+};
+
+inline RsRef Mandats(std::initializer_list<Mandat> mandats) {
+  RsRef rs = NouveauRecordset({"Salaire", "EluNonEligibleAbatFraisEmploi", "Designation",
+                               "DateDebut", "DateFin", "MontantRemunerationBrute"});
+  for (const auto& md : mandats) {
+    rs->AddNew();
+    rs->SetField("Salaire", md.salaire);
+    rs->SetField("EluNonEligibleAbatFraisEmploi", md.nonEligible);
+    rs->SetField("Designation", md.designation);
+    rs->SetField("DateDebut", md.debut);
+    rs->SetField("DateFin", md.fin);
+    rs->SetField("MontantRemunerationBrute", md.brute);
+  }
+  return rs;
+}
+
+// The value of a column in a row of a table, by the column's name.
+inline Value Colonne(const RsRef& rs, std::size_t ligne, const std::string& colonne) {
+  const auto colonnes = rs->Columns();
+  for (std::size_t i = 0; i < colonnes.size(); ++i)
+    if (colonnes[i] == colonne) return rs->Rows().at(ligne).at(i);
+  ADD_FAILURE() << "no column " << colonne;
+  return Value();
 }
 
 // Rows of a source read back, whatever its filter.

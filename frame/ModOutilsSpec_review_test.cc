@@ -4,17 +4,14 @@
 
 #include <string>
 
+#include "frame/modoutils_test_outils.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/fault.h"
 
 namespace orvalis {
 namespace {
 
-class ModOutilsSpecReviewTest : public ::testing::Test {
- protected:
-  void SetUp() override { DetecteSeparateurDecimal(); }
-  void TearDown() override { DetecteSeparateurDecimal(); }
-};
+class ModOutilsSpecReviewTest : public outils_test::SeparateursDuSysteme {};
 
 // --- Arrondi ---------------------------------------------------------------------------
 

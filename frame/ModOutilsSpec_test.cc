@@ -3,17 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include "frame/modoutils_test_outils.h"
 #include "orvalis/fault.h"
 
 namespace orvalis {
 namespace {
 
-// Every test starts from the separators of an engine just created.
-class ModOutilsSpecTest : public ::testing::Test {
- protected:
-  void SetUp() override { DetecteSeparateurDecimal(); }
-  void TearDown() override { DetecteSeparateurDecimal(); }
-};
+class ModOutilsSpecTest : public outils_test::SeparateursDuSysteme {};
 
 // --- Arrondi ---------------------------------------------------------------------------
 

@@ -132,8 +132,8 @@ bool MethodeCalculG::Appel_Methode_Calcul_General(const std::string& sNomcalcul,
                                                   const RsRef& RsVarSalaries,
                                                   const RsRef& RsVarSalariesHisto,
                                                   const RsRef& RsSalariesHisto) {
-  const std::string nom = sNomcalcul;
   return SousPiege([&] {
+    const std::string nom = sNomcalcul;  // the entry works on its own copy of the name
     const auto* ligne = TrouveLigne(TableCalculHisto(), nom);
     if (ligne == nullptr) return;
     Calc a{*this, nom, InfosSalaries, Rubrique, RsVarSalaries, RsVarSalariesHisto, RsSalariesHisto};

@@ -163,8 +163,8 @@ bool MethodeCalculG_Nouv::Appel_Methode_Preparation_Calcul_General(
 bool MethodeCalculG_Nouv::Appel_Methode_Calcul_General(
     const std::string& sNomcalcul, VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
     const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto, const RsRef& RsSalariesHisto) {
-  const std::string nom = sNomcalcul;  // the entry works on its own copy of the name
   return SousPiege([&] {
+    const std::string nom = sNomcalcul;  // the entry works on its own copy of the name
     const auto* ligne = TrouveLigne(TableCalculNouv(), nom);
     if (ligne == nullptr) return;
     Calc a{*this, nom, InfosSalaries, Rubrique, RsVarSalaries, RsVarSalariesHisto, RsSalariesHisto};

@@ -43,16 +43,6 @@ void MoteurCalcul::MsgBox(const std::string& texte) {
   }
 }
 
-bool MoteurCalcul::SousPiege(const std::function<void()>& travail) noexcept {
-  try {
-    travail();
-    return true;
-  } catch (...) {
-    // The host learns only the false result; what was written stays written.
-    return false;
-  }
-}
-
 bool TestDetachement(const VarCalculSalarie& InfosSalaries, const SalarieCalculRubrique& Rubrique) {
   static constexpr std::array<std::string_view, 8> kCodes = {
       "CNRDETACH", "CNRBONIFDE", "CIVSURCOTP", "CIVSURBONP",

@@ -164,20 +164,21 @@ class BaseCumulsIccsgTest : public PaieDeMars {
   }
 };
 
-TEST_F(BaseCumulsIccsgTest, TraitementIdIccsgHc) {
-  EXPECT_DOUBLE_EQ(Base("TRAITEMENT DE BASE + ID + ICCSG + HC"), 1935.0);
-}
-
-TEST_F(BaseCumulsIccsgTest, TraitementIdIccsgHcPrimesTppReadsNoIccsg) {
-  EXPECT_DOUBLE_EQ(Base("TRAITEMENT BASE + ID + ICCSG + HC + PRIMES + TPP"), 2220.0);
-}
-
+// The PRIMES + TPP variants read no ICCSG.
 TEST_F(BaseCumulsIccsgTest, TraitementIdIccsg) {
-  EXPECT_DOUBLE_EQ(Base("TRAITEMENT DE BASE + ID + ICCSG"), 1835.0);
-}
-
-TEST_F(BaseCumulsIccsgTest, TraitementIdIccsgPrimesTppReadsNoIccsg) {
-  EXPECT_DOUBLE_EQ(Base("TRAITEMENT DE BASE + ID + ICCSG + PRIMES + TPP"), 2120.0);
+  const struct {
+    const char* designation;
+    double attendu;
+  } kLignes[] = {
+      {"TRAITEMENT DE BASE + ID + ICCSG + HC", 1935.0},
+      {"TRAITEMENT BASE + ID + ICCSG + HC + PRIMES + TPP", 2220.0},
+      {"TRAITEMENT DE BASE + ID + ICCSG", 1835.0},
+      {"TRAITEMENT DE BASE + ID + ICCSG + PRIMES + TPP", 2120.0},
+  };
+  for (const auto& l : kLignes) {
+    SCOPED_TRACE(l.designation);
+    EXPECT_DOUBLE_EQ(Base(l.designation), l.attendu);
+  }
 }
 
 TEST_F(BaseCumulsTest, BaseTaxeSalaire) {
@@ -213,32 +214,35 @@ class BaseMoisPrecTest : public PaieDeMars {
   }
 };
 
-TEST_F(BaseMoisPrecTest, TraitementDeBaseDuMoisPrec) {
-  EXPECT_DOUBLE_EQ(Base("TRAITEMENT DE BASE DU MOIS PREC"), 1700.0);
+TEST_F(BaseMoisPrecTest, TotauxDuMoisPrec) {
+  const struct {
+    const char* designation;
+    double attendu;
+  } kLignes[] = {
+      {"TRAITEMENT DE BASE DU MOIS PREC", 1700.0},
+      {"BONIFICATION INDICIAIRE MOIS PREC", 80.0},
+      {"INDEMNITE DE RESIDENCE MOIS PREC", 51.0},
+      {"AUTRES PRIMES MOIS PREC", 360.0},
+      {"AUTRES PRIMES EXCLUES TPP MOIS PREC", 225.5},
+  };
+  for (const auto& l : kLignes) {
+    SCOPED_TRACE(l.designation);
+    EXPECT_DOUBLE_EQ(Base(l.designation), l.attendu);
+  }
 }
 
-TEST_F(BaseMoisPrecTest, BonificationIndiciaireMoisPrec) {
-  EXPECT_DOUBLE_EQ(Base("BONIFICATION INDICIAIRE MOIS PREC"), 80.0);
-}
-
-TEST_F(BaseMoisPrecTest, IndemniteDeResidenceMoisPrec) {
-  EXPECT_DOUBLE_EQ(Base("INDEMNITE DE RESIDENCE MOIS PREC"), 51.0);
-}
-
-TEST_F(BaseMoisPrecTest, AutresPrimesMoisPrec) {
-  EXPECT_DOUBLE_EQ(Base("AUTRES PRIMES MOIS PREC"), 360.0);
-}
-
-TEST_F(BaseMoisPrecTest, AutresPrimesExcluesTppMoisPrec) {
-  EXPECT_DOUBLE_EQ(Base("AUTRES PRIMES EXCLUES TPP MOIS PREC"), 225.5);
-}
-
-TEST_F(BaseMoisPrecTest, TraitementBaseMoisPrecSansRetenue) {
-  EXPECT_NEAR(Base("TRAITEMENT BASE MOIS PREC SANS RETENUE"), 1463.33, 1e-9);
-}
-
-TEST_F(BaseMoisPrecTest, IndemniteDeResidenceMoisPrecSansRetenue) {
-  EXPECT_NEAR(Base("INDEMNITE DE RESIDENCE MOIS PREC SANS RETENUE"), 47.6, 1e-9);
+TEST_F(BaseMoisPrecTest, SansRetenueMoisPrec) {
+  const struct {
+    const char* designation;
+    double attendu;
+  } kLignes[] = {
+      {"TRAITEMENT BASE MOIS PREC SANS RETENUE", 1463.33},
+      {"INDEMNITE DE RESIDENCE MOIS PREC SANS RETENUE", 47.6},
+  };
+  for (const auto& l : kLignes) {
+    SCOPED_TRACE(l.designation);
+    EXPECT_NEAR(Base(l.designation), l.attendu, 1e-9);
+  }
 }
 
 TEST_F(BaseMoisPrecTest, PrimesJanvierReadsJanuaryOfThePayYear) {

@@ -6,77 +6,31 @@
 #include <utility>
 #include <vector>
 
+#include "generic/paie_test_util.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 
 namespace orvalis {
 namespace {
 
-class BaseReviewTest : public ::testing::Test {
+class BaseReviewTest : public paie_test::PaieDeMarsCommune {
  protected:
-  BaseReviewTest() {
-    m.gPeriodeEncours = "01/03/2024";
-    m.gRsConstantes = NouveauRecordset({"CodeConstante", "IdConstante", "Valeur", "TauxMontant"});
-    m.gRsCumuls = NouveauRecordset({"CodeCumul", "Idcumul", "PartSalariale", "PartPatronale"});
-    m.gRsCumulsHistoriqueSal = NouveauRecordset(
-        {"IDSALARIE", "Mois", "CodeCumul", "IdCumul", "PartSalariale", "PartPatronale"});
-    m.gRsConstantesFixesHistorique = NouveauRecordset({"Mois", "Point"});
-    m.gRsConstantesFixes = NouveauRecordset({"Point", "PlafSecu", "SmicHor", "HrsMois"});
-    m.gRsConstantesFixes->AddNew();
-    vars = NouveauRecordset({"CodeVariable", "IdVariable", "Valeur", "Dateeffet", "TauxMontant"});
-    s.lIdSalarie = 42;
-  }
+  BaseReviewTest()
+      : PaieDeMarsCommune({"Point", "PlafSecu", "SmicHor", "HrsMois"}, {"Mois", "Point"}) {}
 
   // A current total; the employer side defaults to a figure no rule of the employee side
   // may return.
   void Cumul(const std::string& code, const Value& sal, const Value& pat = 987654.0,
              int id = 0) {
-    m.gRsCumuls->AddNew();
-    m.gRsCumuls->SetField("CodeCumul", code);
-    m.gRsCumuls->SetField("Idcumul", id);
-    m.gRsCumuls->SetField("PartSalariale", sal);
-    m.gRsCumuls->SetField("PartPatronale", pat);
+    paie_test::AjouteCumul(m.gRsCumuls, code, sal, pat, id);
   }
   void Histo(int idSalarie, const std::string& mois, const std::string& code, const Value& sal,
              const Value& pat = 876543.0) {
-    auto& h = m.gRsCumulsHistoriqueSal;
-    h->AddNew();
-    h->SetField("IDSALARIE", idSalarie);
-    h->SetField("Mois", mois);
-    h->SetField("CodeCumul", code);
-    h->SetField("IdCumul", 0);
-    h->SetField("PartSalariale", sal);
-    h->SetField("PartPatronale", pat);
-  }
-  void Constante(const std::string& code, const Value& v, int id = 0,
-                 const Value& tm = "M") {
-    m.gRsConstantes->AddNew();
-    m.gRsConstantes->SetField("CodeConstante", code);
-    m.gRsConstantes->SetField("IdConstante", id);
-    m.gRsConstantes->SetField("Valeur", v);
-    m.gRsConstantes->SetField("TauxMontant", tm);
+    paie_test::AjouteHistorique(m.gRsCumulsHistoriqueSal, idSalarie, mois, code, sal, pat);
   }
   void Var(const std::string& code, const Value& v, int id = 0, const Value& date = Value(),
            const Value& tm = "M") {
-    vars->AddNew();
-    vars->SetField("CodeVariable", code);
-    vars->SetField("IdVariable", id);
-    vars->SetField("Valeur", v);
-    vars->SetField("Dateeffet", date);
-    vars->SetField("TauxMontant", tm);
+    paie_test::AjouteVariable(vars, code, v, id, date, tm);
   }
-  void Fixe(const std::string& champ, const Value& v) {
-    m.gRsConstantesFixes->SetField(champ, v);
-  }
-  double Base(const std::string& designation, int id = 0) {
-    r.sValeurBase = designation;
-    r.lIdValeurBase = id;
-    return m.RechercheValeurBase(s, vars, r);
-  }
-
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s;
-  SalarieCalculRubrique r;
-  RsRef vars;
 };
 
 // ---- One current total, employee side, rounded to 2 places by the lookup ------------------

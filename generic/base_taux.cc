@@ -7,6 +7,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
@@ -22,25 +23,49 @@ double Divise(double dBase, const std::string& sType, double dTaux) {
   return sType == "T" ? Div(dBase, dTaux / 100) : Div(dBase, dTaux);
 }
 
-// Steps common to "BASE x TAUX" and its detachment variant, once dBase holds the base
-// times its coefficient.
-void TauxSurBase(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
-                 const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
-                 SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto, double K) {
+void MontantParProduit(double& dMontant, double dTaux, const std::string& sType, double dBase) {
+  dMontant = Applique(dTaux, sType, dBase);
+}
+
+// Under the threshold the amount is not written: it keeps what the line came with.
+void MontantParDivision(double& dMontant, double dTaux, const std::string& sType, double dBase) {
+  if (std::abs(dTaux) > 0.000001) dMontant = Divise(dBase, sType, dTaux);
+}
+
+using EcritMontant = void (*)(double& dMontant, double dTaux, const std::string& sType,
+                              double dBase);
+
+// Once dBase holds the base times K: each rate in turn, the employee's first, its amount
+// written on the rate as resolved, then the rate rounded.
+void DeuxMontants(const LectureLigne& l, EcritMontant ecrit, double K) {
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
   std::string sTypeS;
-  Rubrique.dTauxSalarial = m.RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
-                                                         RsVarSalariesHisto, Rubrique, sTypeS,
-                                                         RsSalariesHisto);
-  Rubrique.dMontantSalarial = Applique(Rubrique.dTauxSalarial, sTypeS, Rubrique.dBase);
+  Rubrique.dTauxSalarial = l.TauxSalarial(sTypeS);
+  ecrit(Rubrique.dMontantSalarial, Rubrique.dTauxSalarial, sTypeS, Rubrique.dBase);
   Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
 
   std::string sTypeP;
-  Rubrique.dTauxPatronal =
-      m.RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sTypeP, "");
-  Rubrique.dMontantPatronal = Applique(Rubrique.dTauxPatronal, sTypeP, Rubrique.dBase);
+  Rubrique.dTauxPatronal = l.TauxPatronal(sTypeP);
+  ecrit(Rubrique.dMontantPatronal, Rubrique.dTauxPatronal, sTypeP, Rubrique.dBase);
   Rubrique.dTauxPatronal = Arrondi(Rubrique.dTauxPatronal, 4);
 
   Rubrique.dValeurCoefficient = K;
+}
+
+struct TypesDesTaux {
+  std::string sTypeS;
+  std::string sTypeP;
+};
+
+// The lines with a single amount read the base times its coefficient and both rates, the
+// employee's first, before they write the amount.
+TypesDesTaux BaseEtDeuxTaux(const LectureLigne& l) {
+  const double B = l.Base();
+  l.Rubrique.dBase = B * l.Coefficient();
+  TypesDesTaux t;
+  l.Rubrique.dTauxSalarial = l.TauxSalarial(t.sTypeS);
+  l.Rubrique.dTauxPatronal = l.TauxPatronal(t.sTypeP);
+  return t;
 }
 
 }  // namespace
@@ -50,12 +75,10 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalarie
                                                   const RsRef& RsVarSalariesHisto,
                                                   SalarieCalculRubrique& Rubrique,
                                                   const RsRef& RsSalariesHisto) {
-  Rubrique.dBase = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  const double K = RechercheValeurCoefficient(InfosSalaries, RsVarSalaries, Rubrique.lIdCoeffBase,
-                                              Rubrique.sCoeffBase, Rubrique);
-  Rubrique.dBase = Rubrique.dBase * K;
-  TauxSurBase(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto,
-              K);
+  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                       Rubrique, RsSalariesHisto};
+  const double K = l.BaseFoisCoefficient();
+  DeuxMontants(l, MontantParProduit, K);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& InfosSalaries,
@@ -66,15 +89,16 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& 
   // The first detachment's lines take its share of the days; the "...20" lines the second's.
   static constexpr std::array<std::string_view, 4> kPremierDetachement = {
       "CNRDETACH", "CNRBONIFDE", "CIVSURCOTP", "CIVSURBONP"};
-  Rubrique.dBase = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                       Rubrique, RsSalariesHisto};
+  Rubrique.dBase = l.Base();
   const Int16 iJours = InfosSalaries.iNBJ_DETACHEMENT + InfosSalaries.iNBJ_DETACHEMENT2;
   bool bPremier = false;
   for (auto code : kPremierDetachement) bPremier = bPremier || Rubrique.sCodeRubrique == code;
   const double K = bPremier ? InfosSalaries.iNBJ_DETACHEMENT / iJours
                             : InfosSalaries.iNBJ_DETACHEMENT2 / iJours;
   Rubrique.dBase = Rubrique.dBase * K;
-  TauxSurBase(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto,
-              K);
+  DeuxMontants(l, MontantParProduit, K);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_BaseDivTaux(VarCalculSalarie& InfosSalaries,
@@ -82,28 +106,10 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseDivTaux(VarCalculSalarie& InfosSala
                                                      const RsRef& RsVarSalariesHisto,
                                                      SalarieCalculRubrique& Rubrique,
                                                      const RsRef& RsSalariesHisto) {
-  Rubrique.dBase = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  const double K = RechercheValeurCoefficient(InfosSalaries, RsVarSalaries, Rubrique.lIdCoeffBase,
-                                              Rubrique.sCoeffBase, Rubrique);
-  Rubrique.dBase = Rubrique.dBase * K;
-
-  // Under the threshold the amount is not written: it keeps what the line came with.
-  std::string sTypeS;
-  Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
-                                                       RsVarSalariesHisto, Rubrique, sTypeS,
-                                                       RsSalariesHisto);
-  if (std::abs(Rubrique.dTauxSalarial) > 0.000001)
-    Rubrique.dMontantSalarial = Divise(Rubrique.dBase, sTypeS, Rubrique.dTauxSalarial);
-  Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
-
-  std::string sTypeP;
-  Rubrique.dTauxPatronal =
-      RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sTypeP, "");
-  if (std::abs(Rubrique.dTauxPatronal) > 0.000001)
-    Rubrique.dMontantPatronal = Divise(Rubrique.dBase, sTypeP, Rubrique.dTauxPatronal);
-  Rubrique.dTauxPatronal = Arrondi(Rubrique.dTauxPatronal, 4);
-
-  Rubrique.dValeurCoefficient = K;
+  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                       Rubrique, RsSalariesHisto};
+  const double K = l.BaseFoisCoefficient();
+  DeuxMontants(l, MontantParDivision, K);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries,
@@ -111,24 +117,14 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSa
                                                        const RsRef& RsVarSalariesHisto,
                                                        SalarieCalculRubrique& Rubrique,
                                                        const RsRef& RsSalariesHisto) {
-  const double B = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  Rubrique.dBase = B * RechercheValeurCoefficient(InfosSalaries, RsVarSalaries,
-                                                  Rubrique.lIdCoeffBase, Rubrique.sCoeffBase,
-                                                  Rubrique);
-  std::string sTypeS;
-  Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
-                                                       RsVarSalariesHisto, Rubrique, sTypeS,
-                                                       RsSalariesHisto);
-  std::string sTypeP;
-  Rubrique.dTauxPatronal =
-      RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sTypeP, "");
-
+  const TypesDesTaux t = BaseEtDeuxTaux(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
   // One amount, on the employee side: the employer rate wins when there is one.
   if (Rubrique.dTauxPatronal != 0) {
-    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxPatronal, sTypeP, Rubrique.dBase);
+    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxPatronal, t.sTypeP, Rubrique.dBase);
     Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxPatronal, 4);
   } else {
-    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxSalarial, sTypeS, Rubrique.dBase);
+    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxSalarial, t.sTypeS, Rubrique.dBase);
     Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
   }
   Rubrique.dTauxPatronal = 0;
@@ -139,20 +135,10 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSal
                                                       const RsRef& RsVarSalariesHisto,
                                                       SalarieCalculRubrique& Rubrique,
                                                       const RsRef& RsSalariesHisto) {
-  const double B = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  Rubrique.dBase = B * RechercheValeurCoefficient(InfosSalaries, RsVarSalaries,
-                                                  Rubrique.lIdCoeffBase, Rubrique.sCoeffBase,
-                                                  Rubrique);
-  std::string sTypeS;
-  Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
-                                                       RsVarSalariesHisto, Rubrique, sTypeS,
-                                                       RsSalariesHisto);
-  std::string sTypeP;
-  Rubrique.dTauxPatronal =
-      RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sTypeP, "");
-
+  const TypesDesTaux t = BaseEtDeuxTaux(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
   const double dSmicHoraire = ConstanteFixe("SmicHor");
-  if (sTypeS == "T") {
+  if (t.sTypeS == "T") {
     Rubrique.dMontantSalarial = Rubrique.dBase * dSmicHoraire * Rubrique.dTauxSalarial / 100;
   } else {
     Rubrique.dMontantSalarial = Rubrique.dBase * dSmicHoraire * Rubrique.dTauxSalarial;

@@ -9,8 +9,7 @@ namespace {
 class LigneGenerique : public PaieTaux {
  protected:
   LigneGenerique() {
-    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
-    r.dMontantSalarialRub = 1000;
+    BaseAutreLigne(1000);
     r.lIdTaux = 4;
   }
   // Both rates from the fund's rate row, as percentages.
@@ -21,12 +20,8 @@ class LigneGenerique : public PaieTaux {
   }
   // A rate from a constant, of the given kind, on each side.
   void TauxConstantes(double sal, double pat, const char* kind) {
-    Constante("S", sal, 1, kind);
-    Constante("P", pat, 2, kind);
-    r.sValeurTauxSalarial = "UNE CONSTANTE";
-    r.lIdValeurTauxSalarial = 1;
-    r.sValeurTauxPatronal = "UNE CONSTANTE";
-    r.lIdValeurTauxPatronal = 2;
+    TauxSalarialConstante("S", sal, kind);
+    TauxPatronalConstante("P", pat, kind);
   }
 };
 

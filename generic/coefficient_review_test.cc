@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "generic/paie_test_util.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 
 namespace orvalis {
@@ -15,30 +16,17 @@ class CoefficientReviewTest : public ::testing::Test {
     m.gPeriodeEncours = "01/03/2024";
     m.gRsConstantes = NouveauRecordset({"CodeConstante", "IdConstante", "Valeur", "TauxMontant"});
     m.gRsCumuls = NouveauRecordset({"CodeCumul", "Idcumul", "PartSalariale", "PartPatronale"});
-    vars = NouveauRecordset({"CodeVariable", "IdVariable", "Valeur", "DateEffet", "TauxMontant"});
+    vars = paie_test::NouvellesVariables("DateEffet");
   }
 
   void Constante(int id, const Value& v, const Value& tm) {
-    m.gRsConstantes->AddNew();
-    m.gRsConstantes->SetField("CodeConstante", "C" + std::to_string(id));
-    m.gRsConstantes->SetField("IdConstante", id);
-    m.gRsConstantes->SetField("Valeur", v);
-    m.gRsConstantes->SetField("TauxMontant", tm);
+    paie_test::AjouteConstante(m.gRsConstantes, "C" + std::to_string(id), v, id, tm);
   }
   void Var(int id, const Value& v, const Value& tm, const Value& date = Value()) {
-    vars->AddNew();
-    vars->SetField("CodeVariable", "V" + std::to_string(id));
-    vars->SetField("IdVariable", id);
-    vars->SetField("Valeur", v);
-    vars->SetField("DateEffet", date);
-    vars->SetField("TauxMontant", tm);
+    paie_test::AjouteVariable(vars, "V" + std::to_string(id), v, id, date, tm, "DateEffet");
   }
   void Cumul(int id, const Value& sal, const Value& pat) {
-    m.gRsCumuls->AddNew();
-    m.gRsCumuls->SetField("CodeCumul", "K" + std::to_string(id));
-    m.gRsCumuls->SetField("Idcumul", id);
-    m.gRsCumuls->SetField("PartSalariale", sal);
-    m.gRsCumuls->SetField("PartPatronale", pat);
+    paie_test::AjouteCumul(m.gRsCumuls, "K" + std::to_string(id), sal, pat, id);
   }
   double Coef(const std::string& designation, int id = 0) {
     return m.RechercheValeurCoefficient(s, vars, id, designation, r);
@@ -108,7 +96,7 @@ TEST_F(CoefficientReviewTest, VariableWithItsEffectiveDate) {
 TEST_F(CoefficientReviewTest, VariableSourcesAndBadDate) {
   Var(11, 80.0, "T", "2024-03-01");
   EXPECT_THROW(Coef("VARIABLE", 11), Fault);
-  vars = NouveauRecordset({"CodeVariable", "IdVariable", "Valeur", "DateEffet", "TauxMontant"});
+  vars = paie_test::NouvellesVariables("DateEffet");
   EXPECT_EQ(Coef("VARIABLE", 11), 1);
   vars = nullptr;
   EXPECT_EQ(Coef("VARIABLE", 0), 1);

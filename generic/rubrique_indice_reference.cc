@@ -1,5 +1,6 @@
 // Pay lines on a reference index: the employee's increased index at most the reference
 // takes the first amount, above it the second.
+#include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
@@ -37,18 +38,16 @@ void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& Info
                                                           const RsRef& RsVarSalariesHisto,
                                                           SalarieCalculRubrique& Rubrique,
                                                           const RsRef& RsSalariesHisto) {
-  const double I = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  const double K = RechercheValeurCoefficient(InfosSalaries, RsVarSalaries, Rubrique.lIdCoeffBase,
-                                              Rubrique.sCoeffBase, Rubrique);
+  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+                       Rubrique, RsSalariesHisto};
+  const double I = l.Base();
+  const double K = l.Coefficient();
   std::string sType;
   if (InfosSalaries.dIndiceMajoreM <= I) {
-    Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
-                                                         RsVarSalariesHisto, Rubrique, sType,
-                                                         RsSalariesHisto);
+    Rubrique.dTauxSalarial = l.TauxSalarial(sType);
     Rubrique.dBase = Rubrique.dTauxSalarial;
   } else {
-    Rubrique.dTauxPatronal =
-        RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sType, "");
+    Rubrique.dTauxPatronal = l.TauxPatronal(sType);
     Rubrique.dBase = Rubrique.dTauxPatronal;
   }
   Rubrique.dMontantSalarial = Arrondi(Rubrique.dBase * K, 2);

@@ -8,14 +8,9 @@ namespace {
 class IndiceReference : public PaieTaux {
  protected:
   IndiceReference() {
-    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
-    r.dMontantSalarialRub = 350;
-    Constante("S", 120.5, 1, "T");
-    Constante("P", 80.333, 2, "T");
-    r.sValeurTauxSalarial = "UNE CONSTANTE";
-    r.lIdValeurTauxSalarial = 1;
-    r.sValeurTauxPatronal = "UNE CONSTANTE";
-    r.lIdValeurTauxPatronal = 2;
+    BaseAutreLigne(350);
+    TauxSalarialConstante("S", 120.5, "T");
+    TauxPatronalConstante("P", 80.333, "T");
     r.dMontantPatronal = 9;
   }
 };
@@ -46,8 +41,7 @@ TEST_F(IndiceReference, IndiceAuDessusPrendLaCellulePatronale) {
 class IndiceReferenceCAS : public PaieTaux {
  protected:
   IndiceReferenceCAS() {
-    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
-    r.dMontantSalarialRub = 350;
+    BaseAutreLigne(350);
     r.lIdOrganisme = 3;
     Taux("CAS1", 10.0, 20.0, 1, 3);
     Taux("CAS2", 30.0, 40.0, 2, 3);
@@ -65,20 +59,24 @@ class IndiceReferenceCAS : public PaieTaux {
   }
 };
 
-TEST_F(IndiceReferenceCAS, IndiceEgalALaReference) {
-  s.dIndiceMajoreM = 350;
-  ASSERT_TRUE(Calcul("INDICE DE REFERENCE - CAS"));
-  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 10.0);
-  EXPECT_DOUBLE_EQ(r.dMontantPatronal, 20.0);
-  ExpectLigneAZero();
-}
-
-TEST_F(IndiceReferenceCAS, IndiceAuDessus) {
-  s.dIndiceMajoreM = 350.5;
-  ASSERT_TRUE(Calcul("INDICE DE REFERENCE - CAS"));
-  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 30.0);
-  EXPECT_DOUBLE_EQ(r.dMontantPatronal, 40.0);
-  ExpectLigneAZero();
+// At the reference index the first row's amounts, above it the second's.
+TEST_F(IndiceReferenceCAS, IndiceEgalOuAuDessus) {
+  const struct {
+    double dIndice;
+    double dSalarial;
+    double dPatronal;
+  } kLignes[] = {
+      {350, 10.0, 20.0},
+      {350.5, 30.0, 40.0},
+  };
+  for (const auto& l : kLignes) {
+    SCOPED_TRACE(l.dIndice);
+    s.dIndiceMajoreM = l.dIndice;
+    ASSERT_TRUE(Calcul("INDICE DE REFERENCE - CAS"));
+    EXPECT_DOUBLE_EQ(r.dMontantSalarial, l.dSalarial);
+    EXPECT_DOUBLE_EQ(r.dMontantPatronal, l.dPatronal);
+    ExpectLigneAZero();
+  }
 }
 
 TEST_F(IndiceReferenceCAS, Communal) {

@@ -1,5 +1,6 @@
 // Pay lines whose "rates" are amounts or day counts: "MONTANT FIXE", "MONTANT FIXE ANNUEL"
 // and the two "BASE PRORATISEE SELON NB JOURS / 30".
+#include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
@@ -9,33 +10,22 @@ namespace {
 
 // Steps 1 to 3 of both fixed amounts: the base, its coefficient, and the two rate
 // designations standing for the amounts themselves. Gives the coefficient.
-double MontantsFixes(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
-                     const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
-                     SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto) {
-  Rubrique.dBase = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  const double K = m.RechercheValeurCoefficient(InfosSalaries, RsVarSalaries,
-                                                Rubrique.lIdCoeffBase, Rubrique.sCoeffBase,
-                                                Rubrique);
+double MontantsFixes(const LectureLigne& l) {
+  l.Rubrique.dBase = l.Base();
+  const double K = l.Coefficient();
   std::string sType;
-  Rubrique.dMontantSalarial = m.RechercheValeurTauxSalarial(
-      InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, sType, RsSalariesHisto);
-  Rubrique.dMontantPatronal =
-      m.RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sType, "");
+  l.Rubrique.dMontantSalarial = l.TauxSalarial(sType);
+  l.Rubrique.dMontantPatronal = l.TauxPatronal(sType);
   return K;
 }
 
 // Days times the base over 30: the employee "rate" is a number of days.
-double Prorata30(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
-                 const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
-                 SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto) {
-  const double B = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
-  Rubrique.dBase = B * m.RechercheValeurCoefficient(InfosSalaries, RsVarSalaries,
-                                                    Rubrique.lIdCoeffBase, Rubrique.sCoeffBase,
-                                                    Rubrique);
+double Prorata30(const LectureLigne& l) {
+  const double B = l.Base();
+  l.Rubrique.dBase = B * l.Coefficient();
   std::string sType;
-  Rubrique.dTauxSalarial = m.RechercheValeurTauxSalarial(
-      InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, sType, RsSalariesHisto);
-  return Rubrique.dTauxSalarial * Rubrique.dBase / 30;
+  l.Rubrique.dTauxSalarial = l.TauxSalarial(sType);
+  return l.Rubrique.dTauxSalarial * l.Rubrique.dBase / 30;
 }
 
 }  // namespace
@@ -45,8 +35,8 @@ void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSala
                                                      const RsRef& RsVarSalariesHisto,
                                                      SalarieCalculRubrique& Rubrique,
                                                      const RsRef& RsSalariesHisto) {
-  const double K = MontantsFixes(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                                 Rubrique, RsSalariesHisto);
+  const double K = MontantsFixes(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
   // With neither amount, the base (times its coefficient, when the line names one) is paid.
   if (Rubrique.dMontantSalarial == 0 && Rubrique.dMontantPatronal == 0) {
     if (!Rubrique.sCoeffBase.empty()) {
@@ -65,8 +55,8 @@ void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& Inf
                                                            const RsRef& RsVarSalariesHisto,
                                                            SalarieCalculRubrique& Rubrique,
                                                            const RsRef& RsSalariesHisto) {
-  const double K = MontantsFixes(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                                 Rubrique, RsSalariesHisto);
+  const double K = MontantsFixes(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
   // With neither amount, a twelfth of the yearly base is paid.
   if (Rubrique.dMontantSalarial == 0 && Rubrique.dMontantPatronal == 0) {
     Rubrique.dTauxSalarial = 0;
@@ -85,8 +75,8 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSa
                                                        const RsRef& RsVarSalariesHisto,
                                                        SalarieCalculRubrique& Rubrique,
                                                        const RsRef& RsSalariesHisto) {
-  Rubrique.dMontantSalarial = Prorata30(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                                        Rubrique, RsSalariesHisto);
+  Rubrique.dMontantSalarial = Prorata30(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
@@ -94,8 +84,8 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie&
                                                                const RsRef& RsVarSalariesHisto,
                                                                SalarieCalculRubrique& Rubrique,
                                                                const RsRef& RsSalariesHisto) {
-  Rubrique.dMontantSalarial = -Prorata30(*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                                         Rubrique, RsSalariesHisto);
+  Rubrique.dMontantSalarial = -Prorata30(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
 }  // namespace orvalis

@@ -8,16 +8,11 @@ namespace {
 class MontantFixe : public PaieTaux {
  protected:
   MontantFixe() {
-    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
-    r.dMontantSalarialRub = 150;
+    BaseAutreLigne(150);
   }
   void Montants(double sal, double pat) {
-    Constante("S", sal, 1, "T");  // the kind plays no part
-    Constante("P", pat, 2, "T");
-    r.sValeurTauxSalarial = "UNE CONSTANTE";
-    r.lIdValeurTauxSalarial = 1;
-    r.sValeurTauxPatronal = "UNE CONSTANTE";
-    r.lIdValeurTauxPatronal = 2;
+    TauxSalarialConstante("S", sal, "T");  // the kind plays no part
+    TauxPatronalConstante("P", pat, "T");
   }
   void Coefficient(double k) {
     r.sCoeffBase = "PART PATRONALE D'UNE RUBRIQUE";

@@ -8,20 +8,9 @@ namespace {
 // The base is the employee amount of another line; rates come from constants by id.
 class RubriqueReviewTest : public PaieTaux {
  protected:
-  void Base(double d) {
-    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
-    r.dMontantSalarialRub = d;
-  }
-  void TS(double v, const char* kind) {
-    Constante("TS", v, 1, kind);
-    r.sValeurTauxSalarial = "UNE CONSTANTE";
-    r.lIdValeurTauxSalarial = 1;
-  }
-  void TP(double v, const char* kind) {
-    Constante("TP", v, 2, kind);
-    r.sValeurTauxPatronal = "UNE CONSTANTE";
-    r.lIdValeurTauxPatronal = 2;
-  }
+  void Base(double d) { BaseAutreLigne(d); }
+  void TS(double v, const char* kind) { TauxSalarialConstante("TS", v, kind); }
+  void TP(double v, const char* kind) { TauxPatronalConstante("TP", v, kind); }
   void Coeff(double v, const char* kind) {
     Constante("K", v, 3, kind);
     r.sCoeffBase = "UNE CONSTANTE";

@@ -4,35 +4,22 @@
 #ifndef ORVALIS_GENERIC_TAUX_TEST_UTIL_H_
 #define ORVALIS_GENERIC_TAUX_TEST_UTIL_H_
 
-#include <gtest/gtest.h>
-
 #include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "orvalis/MethodeCalculG_Nouv.h"
+#include "generic/paie_test_util.h"
 
 namespace orvalis::taux_test {
 
-class PaieTaux : public ::testing::Test {
+class PaieTaux : public paie_test::PaieDeMarsCommune {
  protected:
-  PaieTaux() {
-    m.gPeriodeEncours = "01/03/2024";
-    m.gRsConstantes = NouveauRecordset({"CodeConstante", "IdConstante", "Valeur", "TauxMontant"});
+  PaieTaux() : PaieDeMarsCommune(ColonnesFixes(false), ColonnesFixes(true)) {
     m.gRsTaux =
         NouveauRecordset({"CodeTaux", "IdTaux", "IdOrganisme", "PartSalariale", "PartPatronale"});
-    m.gRsCumuls = NouveauRecordset({"CodeCumul", "Idcumul", "PartSalariale", "PartPatronale"});
-    m.gRsCumulsHistoriqueSal = NouveauRecordset(
-        {"IDSALARIE", "Mois", "CodeCumul", "IdCumul", "PartSalariale", "PartPatronale"});
-    m.gRsConstantesFixes = NouveauRecordset(ColonnesFixes(false));
-    m.gRsConstantesFixes->AddNew();
-    m.gRsConstantesFixesHistorique = NouveauRecordset(ColonnesFixes(true));
-    vars = NouveauRecordset({"CodeVariable", "IdVariable", "Valeur", "Dateeffet", "TauxMontant"});
-    varsHisto =
-        NouveauRecordset({"CodeVariable", "IdVariable", "Valeur", "Dateeffet", "TauxMontant"});
+    varsHisto = paie_test::NouvellesVariables();
     histo = NouveauRecordset({"IDSALARIE", "Mois", "HeuresMois"});
-    s.lIdSalarie = 42;
   }
 
   static std::vector<std::string> ColonnesFixes(bool bHistorique) {
@@ -41,15 +28,6 @@ class PaieTaux : public ::testing::Test {
                                   "HSCOEFJFSUPP"};
     if (bHistorique) c.insert(c.begin(), "Mois");
     return c;
-  }
-
-  void Constante(const std::string& code, const Value& valeur, int id = 0,
-                 const Value& tauxMontant = "M") {
-    m.gRsConstantes->AddNew();
-    m.gRsConstantes->SetField("CodeConstante", code);
-    m.gRsConstantes->SetField("IdConstante", id);
-    m.gRsConstantes->SetField("Valeur", valeur);
-    m.gRsConstantes->SetField("TauxMontant", tauxMontant);
   }
 
   void Taux(const std::string& code, const Value& sal, const Value& pat, int id = 0,
@@ -63,37 +41,18 @@ class PaieTaux : public ::testing::Test {
   }
 
   void Cumul(const std::string& code, const Value& sal, const Value& pat = 0.0, int id = 0) {
-    m.gRsCumuls->AddNew();
-    m.gRsCumuls->SetField("CodeCumul", code);
-    m.gRsCumuls->SetField("Idcumul", id);
-    m.gRsCumuls->SetField("PartSalariale", sal);
-    m.gRsCumuls->SetField("PartPatronale", pat);
+    paie_test::AjouteCumul(m.gRsCumuls, code, sal, pat, id);
   }
 
   // A total of the employee for a month yyyymm.
   void Historique(const std::string& mois, const std::string& code, const Value& sal,
                   int idSalarie = 42) {
-    m.gRsCumulsHistoriqueSal->AddNew();
-    m.gRsCumulsHistoriqueSal->SetField("IDSALARIE", idSalarie);
-    m.gRsCumulsHistoriqueSal->SetField("Mois", mois);
-    m.gRsCumulsHistoriqueSal->SetField("CodeCumul", code);
-    m.gRsCumulsHistoriqueSal->SetField("IdCumul", 0);
-    m.gRsCumulsHistoriqueSal->SetField("PartSalariale", sal);
-    m.gRsCumulsHistoriqueSal->SetField("PartPatronale", 0.0);
+    paie_test::AjouteHistorique(m.gRsCumulsHistoriqueSal, idSalarie, mois, code, sal, 0.0);
   }
 
   static void Variable(const RsRef& rs, const std::string& code, const Value& valeur, int id = 0,
                        const Value& dateEffet = Value(), const Value& tauxMontant = "M") {
-    rs->AddNew();
-    rs->SetField("CodeVariable", code);
-    rs->SetField("IdVariable", id);
-    rs->SetField("Valeur", valeur);
-    rs->SetField("Dateeffet", dateEffet);
-    rs->SetField("TauxMontant", tauxMontant);
-  }
-
-  void Fixe(const std::string& champ, const Value& valeur) {
-    m.gRsConstantesFixes->SetField(champ, valeur);
+    paie_test::AjouteVariable(rs, code, valeur, id, dateEffet, tauxMontant);
   }
 
   // The statutory values of a month yyyymm.
@@ -126,14 +85,28 @@ class PaieTaux : public ::testing::Test {
     return m.RechercheValeurTauxPatronal(s, vars, r, type, "");
   }
 
+  // The line's base is the employee amount of another line.
+  void BaseAutreLigne(double dMontant) {
+    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
+    r.dMontantSalarialRub = dMontant;
+  }
+
+  // The employee rate from the constant of id 1, the employer rate from that of id 2.
+  void TauxSalarialConstante(const std::string& code, const Value& valeur, const Value& kind) {
+    Constante(code, valeur, 1, kind);
+    r.sValeurTauxSalarial = "UNE CONSTANTE";
+    r.lIdValeurTauxSalarial = 1;
+  }
+  void TauxPatronalConstante(const std::string& code, const Value& valeur, const Value& kind) {
+    Constante(code, valeur, 2, kind);
+    r.sValeurTauxPatronal = "UNE CONSTANTE";
+    r.lIdValeurTauxPatronal = 2;
+  }
+
   bool Calcul(const std::string& nom) {
     return m.Appel_Methode_Calcul_General(nom, s, r, vars, varsHisto, histo);
   }
 
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s;
-  SalarieCalculRubrique r;
-  RsRef vars;
   RsRef varsHisto;
   RsRef histo;
   std::string type = "?";

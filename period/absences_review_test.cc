@@ -4,36 +4,15 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/MoteurCalcul.h"
+#include "period/mois_test_outils.h"
 #include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
 
 using periode_test::LigneSituation;
-using periode_test::SalarieMoisComplet;
+using periode_test::Mois;
 using periode_test::Situations;
-
-// March 2023; the employee is present all month on the new index and hours.
-struct Mois {
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s = SalarieMoisComplet();
-  Mois() { m.gPeriodeEncours = "01/03/2023"; }
-  bool Prepare(const std::string& sNom, const std::vector<LigneSituation>& lignes) {
-    s.rsSituationsExceptionnelles = Situations(lignes);
-    return m.Appel_Methode_Preparation_Calcul_General(sNom, s);
-  }
-  bool Absences(const std::vector<LigneSituation>& lignes) {
-    return Prepare("NBRE_JOUR_AUTREABSENCE", lignes);
-  }
-  // Index change on the 11th: 10 days on the old index, 20 on the new one.
-  void IndiceSeul() {
-    s.sDateChangementIndice = "11/03/2023";
-    s.dCoefficient_IATN = 10 / 30.0;
-    s.dCoefficient_INTN = 20 / 30.0;
-    s.iNBJ_PresenceIATN = 10;
-    s.iNBJ_PresenceINTN = 20;
-  }
-};
 
 // ---- Other absences ---------------------------------------------------------------------------
 

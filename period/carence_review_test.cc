@@ -3,36 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "period/mois_test_outils.h"
 #include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
 
-using periode_test::LigneSituation;
+using periode_test::Carence;
 using periode_test::Quadrants;
-using periode_test::SalarieMoisComplet;
 using periode_test::Situations;
-
-// March 2023 (31 days); the employee is present all month on the new index and hours.
-struct Carence {
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s = SalarieMoisComplet();
-  explicit Carence(const std::string& sPeriode = "01/03/2023") { m.gPeriodeEncours = sPeriode; }
-
-  void Calcule(const std::string& sDebut, const std::string& sFin,
-               const std::vector<LigneSituation>& lignes = {}) {
-    s.rsSituationsExceptionnelles = Situations(lignes);
-    m.CalculNombreJourCarence(s, sDebut, sFin, "");
-  }
-  Quadrants Total() const {
-    return {s.iNBJ_CarenceIATA_Total, s.iNBJ_CarenceIATN_Total, s.iNBJ_CarenceINTA_Total,
-            s.iNBJ_CarenceINTN_Total};
-  }
-  Quadrants DT() const {
-    return {s.iNBJ_CarenceIATA_DT, s.iNBJ_CarenceIATN_DT, s.iNBJ_CarenceINTA_DT,
-            s.iNBJ_CarenceINTN_DT};
-  }
-};
+using periode_test::VerifieCarences;
+using periode_test::VerifieJourDeCarenceDemiTraitement;
 
 TEST(CarenceReviewTest, OneWaitingDayWithoutHalfPay) {
   Carence c;
@@ -45,39 +26,21 @@ TEST(CarenceReviewTest, OneWaitingDayWithoutHalfPay) {
 }
 
 TEST(CarenceReviewTest, OneWaitingDayOnEachHalfPayCode) {
-  for (const char* code : {"DT", "LD", "GD", "CD", "DO50"}) {
-    Carence c;
-    c.Calcule("10/03/2023", "10/03/2023", {{code, "10/03/2023", "10/03/2023"}});
-    EXPECT_EQ(c.Total(), (Quadrants{0, 0, 0, 1})) << code;
-    EXPECT_EQ(c.DT(), (Quadrants{0, 0, 0, 1})) << code;
-  }
+  VerifieJourDeCarenceDemiTraitement("10/03/2023", "10/03/2023");
 }
 
 TEST(CarenceReviewTest, EmployeeNotThereOnTheWaitingDays) {
-  // Gone earlier in the month.
-  Carence parti;
-  parti.s.sDateFin = "05/03/2023";
-  parti.Calcule("10/03/2023", "12/03/2023", {{"DT", "01/03/2023", "31/03/2023"}});
-  EXPECT_EQ(parti.Total(), (Quadrants{0, 0, 0, 0}));
-  EXPECT_EQ(parti.DT(), (Quadrants{0, 0, 0, 0}));
-  // Gone the month before.
-  Carence avant;
-  avant.s.sDateFin = "15/02/2023";
-  avant.Calcule("10/03/2023", "10/03/2023", {{"DT", "01/02/2023", ""}});
-  EXPECT_EQ(avant.Total(), (Quadrants{0, 0, 0, 0}));
-  EXPECT_EQ(avant.DT(), (Quadrants{0, 0, 0, 0}));
-  // Entered after the waiting period.
-  Carence entre;
-  entre.s.sDateDebut = "20/03/2023";
-  entre.Calcule("10/03/2023", "12/03/2023", {{"DT", "01/03/2023", "31/03/2023"}});
-  EXPECT_EQ(entre.Total(), (Quadrants{0, 0, 0, 0}));
-  EXPECT_EQ(entre.DT(), (Quadrants{0, 0, 0, 0}));
-  // Gone on the waiting day itself: that day counts.
-  Carence jour;
-  jour.s.sDateFin = "10/03/2023";
-  jour.Calcule("10/03/2023", "12/03/2023", {{"DT", "01/03/2023", "31/03/2023"}});
-  EXPECT_EQ(jour.Total(), (Quadrants{0, 0, 0, 1}));
-  EXPECT_EQ(jour.DT(), (Quadrants{0, 0, 0, 1}));
+  VerifieCarences({
+      {"gone earlier in the month", nullptr, "05/03/2023", "10/03/2023", "12/03/2023",
+       {{"DT", "01/03/2023", "31/03/2023"}}, {0, 0, 0, 0}, {0, 0, 0, 0}},
+      {"gone the month before", nullptr, "15/02/2023", "10/03/2023", "10/03/2023",
+       {{"DT", "01/02/2023", ""}}, {0, 0, 0, 0}, {0, 0, 0, 0}},
+      {"entered after the waiting period", "20/03/2023", nullptr, "10/03/2023", "12/03/2023",
+       {{"DT", "01/03/2023", "31/03/2023"}}, {0, 0, 0, 0}, {0, 0, 0, 0}},
+      // Gone on the waiting day itself: that day counts.
+      {"gone on the waiting day", nullptr, "10/03/2023", "10/03/2023", "12/03/2023",
+       {{"DT", "01/03/2023", "31/03/2023"}}, {0, 0, 0, 1}, {0, 0, 0, 1}},
+  });
 }
 
 TEST(CarenceReviewTest, WaitingPeriodAcrossTheMonthsBounds) {

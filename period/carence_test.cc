@@ -2,35 +2,17 @@
 #include <gtest/gtest.h>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "period/mois_test_outils.h"
 #include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
 
-using periode_test::LigneSituation;
+using periode_test::Carence;
 using periode_test::Quadrants;
-using periode_test::SalarieMoisComplet;
 using periode_test::Situations;
-
-struct Carence {
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s = SalarieMoisComplet();
-  explicit Carence(const std::string& sPeriode = "01/03/2023") { m.gPeriodeEncours = sPeriode; }
-
-  void Calcule(const std::string& sDebut, const std::string& sFin,
-               const std::vector<LigneSituation>& lignes = {}) {
-    s.rsSituationsExceptionnelles = Situations(lignes);
-    m.CalculNombreJourCarence(s, sDebut, sFin, "");
-  }
-  Quadrants Total() const {
-    return {s.iNBJ_CarenceIATA_Total, s.iNBJ_CarenceIATN_Total, s.iNBJ_CarenceINTA_Total,
-            s.iNBJ_CarenceINTN_Total};
-  }
-  Quadrants DT() const {
-    return {s.iNBJ_CarenceIATA_DT, s.iNBJ_CarenceIATN_DT, s.iNBJ_CarenceINTA_DT,
-            s.iNBJ_CarenceINTN_DT};
-  }
-};
+using periode_test::VerifieCarences;
+using periode_test::VerifieJourDeCarenceDemiTraitement;
 
 TEST(CarenceTest, WaitingDayWithoutHalfPay) {
   Carence c;
@@ -41,12 +23,7 @@ TEST(CarenceTest, WaitingDayWithoutHalfPay) {
 }
 
 TEST(CarenceTest, WaitingDayOnHalfPay) {
-  for (const char* code : {"DT", "LD", "GD", "CD", "DO50"}) {
-    Carence c;
-    c.Calcule("10/03/2023", "10/03/2023", {{code, "01/03/2023", "15/03/2023"}});
-    EXPECT_EQ(c.Total(), (Quadrants{0, 0, 0, 1})) << code;
-    EXPECT_EQ(c.DT(), (Quadrants{0, 0, 0, 1})) << code;
-  }
+  VerifieJourDeCarenceDemiTraitement("01/03/2023", "15/03/2023");
 }
 
 TEST(CarenceTest, OnlyTheDaysWithinTheHalfPayStretchCountAsHalfPay) {
@@ -66,32 +43,17 @@ TEST(CarenceTest, OnlyTheDaysWithinTheHalfPayStretchCountAsHalfPay) {
   EXPECT_EQ(deux.DT(), (Quadrants{0, 0, 0, 2}));
 }
 
-TEST(CarenceTest, EmployeeGoneBeforeTheWaitingDay) {
-  Carence c;
-  c.s.sDateFin = "05/03/2023";
-  c.Calcule("10/03/2023", "10/03/2023", {{"DT", "01/03/2023", "31/03/2023"}});
-  EXPECT_EQ(c.Total(), (Quadrants{0, 0, 0, 0}));
-  EXPECT_EQ(c.DT(), (Quadrants{0, 0, 0, 0}));
-}
-
-TEST(CarenceTest, ClippedToTheEmployment) {
-  Carence entree;
-  entree.s.sDateDebut = "12/03/2023";
-  entree.Calcule("10/03/2023", "13/03/2023", {{"DT", "01/03/2023", "31/03/2023"}});
-  EXPECT_EQ(entree.Total(), (Quadrants{0, 0, 0, 2}));
-  EXPECT_EQ(entree.DT(), (Quadrants{0, 0, 0, 2}));
-  Carence sortie;
-  sortie.s.sDateFin = "11/03/2023";
-  sortie.Calcule("10/03/2023", "13/03/2023", {{"DT", "01/03/2023", ""}});
-  EXPECT_EQ(sortie.Total(), (Quadrants{0, 0, 0, 2}));
-  EXPECT_EQ(sortie.DT(), (Quadrants{0, 0, 0, 2}));
-}
-
-TEST(CarenceTest, WaitingPeriodOutsideTheMonth) {
-  Carence c;
-  c.Calcule("10/02/2023", "12/02/2023", {{"DT", "01/02/2023", "31/03/2023"}});
-  EXPECT_EQ(c.Total(), (Quadrants{0, 0, 0, 0}));
-  EXPECT_EQ(c.DT(), (Quadrants{0, 0, 0, 0}));
+TEST(CarenceTest, ClippedToTheEmploymentAndTheMonth) {
+  VerifieCarences({
+      {"gone before the waiting day", nullptr, "05/03/2023", "10/03/2023", "10/03/2023",
+       {{"DT", "01/03/2023", "31/03/2023"}}, {0, 0, 0, 0}, {0, 0, 0, 0}},
+      {"entered during it", "12/03/2023", nullptr, "10/03/2023", "13/03/2023",
+       {{"DT", "01/03/2023", "31/03/2023"}}, {0, 0, 0, 2}, {0, 0, 0, 2}},
+      {"gone during it", nullptr, "11/03/2023", "10/03/2023", "13/03/2023",
+       {{"DT", "01/03/2023", ""}}, {0, 0, 0, 2}, {0, 0, 0, 2}},
+      {"outside the month", nullptr, nullptr, "10/02/2023", "12/02/2023",
+       {{"DT", "01/02/2023", "31/03/2023"}}, {0, 0, 0, 0}, {0, 0, 0, 0}},
+  });
 }
 
 TEST(CarenceTest, OnTheLastDayOfFebruaryAWaitingDayIsOneDay) {

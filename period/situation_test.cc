@@ -2,40 +2,15 @@
 #include <gtest/gtest.h>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "period/mois_test_outils.h"
 #include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
 
 using periode_test::Quadrants;
-using periode_test::SalarieMoisComplet;
 
-struct Compteur {
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s = SalarieMoisComplet();
-  Int16 a = 0, b = 0, c = 0, d = 0;
-
-  explicit Compteur(const std::string& sPeriode = "01/03/2023") { m.gPeriodeEncours = sPeriode; }
-
-  Quadrants Ajoute(const std::string& sCode, const std::string& sDebut, const std::string& sFin) {
-    m.CalculNombreJour_Situation(sCode, sDebut, sFin, s, a, b, c, d);
-    return Compte();
-  }
-  Quadrants Compte() const { return {a, b, c, d}; }
-
-  // Coefficients and presence of a month split by quadrant, days per quadrant.
-  void Quadrant(int iata, int iatn, int inta, int intn) {
-    s.dCoefficient_IATA = iata / 30.0;
-    s.dCoefficient_IATN = iatn / 30.0;
-    s.dCoefficient_INTA = inta / 30.0;
-    s.dCoefficient_INTN = intn / 30.0;
-    s.iNBJ_PresenceIATA = iata;
-    s.iNBJ_PresenceIATN = iatn;
-    s.iNBJ_PresenceINTA = inta;
-    s.iNBJ_PresenceINTN = intn;
-    s.iNBJ_Presence_Total = iata + iatn + inta + intn;
-  }
-};
+using Compteur = periode_test::Mois;
 
 TEST(SituationTest, WholeMonthOfHalfPay) {
   Compteur k;

@@ -4,68 +4,16 @@
 #include <gtest/gtest.h>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "period/mois_test_outils.h"
 #include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
 
 using periode_test::LigneSituation;
+using periode_test::Mois;
 using periode_test::Quadrants;
-using periode_test::SalarieMoisComplet;
 using periode_test::Situations;
-
-// March 2023 has 31 days; the employee is present all month on the new index and hours.
-struct Mois {
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s = SalarieMoisComplet();
-  Int16 a = 0, b = 0, c = 0, d = 0;
-
-  explicit Mois(const std::string& sPeriode = "01/03/2023") { m.gPeriodeEncours = sPeriode; }
-
-  Quadrants Ajoute(const std::string& sCode, const std::string& sDebut, const std::string& sFin) {
-    m.CalculNombreJour_Situation(sCode, sDebut, sFin, s, a, b, c, d);
-    return {a, b, c, d};
-  }
-  bool Prepare(const std::string& sNom, const std::vector<LigneSituation>& lignes) {
-    s.rsSituationsExceptionnelles = Situations(lignes);
-    return m.Appel_Methode_Preparation_Calcul_General(sNom, s);
-  }
-  // Coefficients and presence of a split month, in days per quadrant.
-  void Quadrant(int iata, int iatn, int inta, int intn) {
-    s.dCoefficient_IATA = iata / 30.0;
-    s.dCoefficient_IATN = iatn / 30.0;
-    s.dCoefficient_INTA = inta / 30.0;
-    s.dCoefficient_INTN = intn / 30.0;
-    s.iNBJ_PresenceIATA = iata;
-    s.iNBJ_PresenceIATN = iatn;
-    s.iNBJ_PresenceINTA = inta;
-    s.iNBJ_PresenceINTN = intn;
-    s.iNBJ_Presence_Total = iata + iatn + inta + intn;
-  }
-  // Index on the 10th, hours on the 20th: 9, 0, 10, 11.
-  void IndicePuisHeures() {
-    s.sDateChangementIndice = "10/03/2023";
-    s.sDateChangementHeures = "20/03/2023";
-    Quadrant(9, 0, 10, 11);
-  }
-  // Hours on the 10th, index on the 20th: 9, 10, 0, 11.
-  void HeuresPuisIndice() {
-    s.sDateChangementIndice = "20/03/2023";
-    s.sDateChangementHeures = "10/03/2023";
-    Quadrant(9, 10, 0, 11);
-  }
-  // Index on the 11th alone: 0, 10, 0, 20.
-  void IndiceSeul() {
-    s.sDateChangementIndice = "11/03/2023";
-    Quadrant(0, 10, 0, 20);
-  }
-  // Hours on the 15th alone: 0, 0, 14, 16.
-  void HeuresSeules() {
-    s.sDateChangementIndice = "01/01/2022";
-    s.sDateChangementHeures = "15/03/2023";
-    Quadrant(0, 0, 14, 16);
-  }
-};
 
 // ---- Bounds and day numbers ------------------------------------------------------------------
 

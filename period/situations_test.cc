@@ -3,25 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "period/mois_test_outils.h"
 #include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
 
-using periode_test::LigneSituation;
+using periode_test::Mois;
 using periode_test::Quadrants;
-using periode_test::SalarieMoisComplet;
-using periode_test::Situations;
-
-struct Mois {
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s = SalarieMoisComplet();
-  Mois() { m.gPeriodeEncours = "01/03/2023"; }
-  bool Prepare(const std::string& sNom, const std::vector<LigneSituation>& lignes) {
-    s.rsSituationsExceptionnelles = Situations(lignes);
-    return m.Appel_Methode_Preparation_Calcul_General(sNom, s);
-  }
-};
 
 TEST(SituationsTest, HalfPayCountsItsFiveCodes) {
   Mois x;
@@ -48,11 +37,7 @@ TEST(SituationsTest, NoSituationWritesZeros) {
 
 TEST(SituationsTest, TotalSumsTheQuadrants) {
   Mois x;
-  x.s.sDateChangementIndice = "11/03/2023";
-  x.s.dCoefficient_IATN = 10 / 30.0;
-  x.s.dCoefficient_INTN = 20 / 30.0;
-  x.s.iNBJ_PresenceIATN = 10;
-  x.s.iNBJ_PresenceINTN = 20;
+  x.IndiceSeul();
   ASSERT_TRUE(x.Prepare("NBRE_JOUR_CFA", {{"CF", "01/02/2023", ""}}));
   EXPECT_EQ(x.s.iNBJ_CFAIATN.value(), 10);
   EXPECT_EQ(x.s.iNBJ_CFAINTN.value(), 20);

@@ -105,7 +105,16 @@ class MoteurCalcul {
 
   // Runs one entry's work under the trap: any fault ends it and gives false; the records
   // keep what was written before the fault.
-  static bool SousPiege(const std::function<void()>& travail) noexcept;
+  template <typename Travail>
+  static bool SousPiege(Travail&& travail) noexcept {
+    try {
+      travail();
+      return true;
+    } catch (...) {
+      // The host learns only the false result; what was written stays written.
+      return false;
+    }
+  }
 };
 
 }  // namespace orvalis
