@@ -28,9 +28,15 @@ namespace {
 // A JSON integer within [min, max], by its exact value.
 std::int64_t LitEntier(const Json& j, const std::string& lieu, std::int64_t min, std::int64_t max,
                        const char* nomType) {
-  if (j.is_number_float())
+  if (j.is_number_float()) {
+    // Integers beyond 64 bits are read as floats: they are out of range, not fractions.
+    const double d = j.get<double>();
+    if (d == std::floor(d) && (d < static_cast<double>(min) || d > static_cast<double>(max)))
+      throw ErreurCas(lieu, Decrit(j) + " is out of range for " + nomType + " (" +
+                                std::to_string(min) + " to " + std::to_string(max) + ")");
     throw ErreurCas(lieu, std::string("expected ") + nomType + ", got " + Decrit(j) +
                               " written with a fraction or an exponent");
+  }
   if (!j.is_number_integer())
     throw ErreurCas(lieu, std::string("expected ") + nomType + ", got " + Decrit(j));
   bool dedans;

@@ -1,5 +1,6 @@
 // Reading and checking a case file: every key, step and argument, before anything runs.
 #include <array>
+#include <memory>
 #include <set>
 #include <string_view>
 
@@ -132,7 +133,9 @@ Etape LitEtape(const Json& etape, const std::string& lieu, TypeMoteur m, bool& c
   }
   VerifieCles(etape, lieu, genre, {"args", "snapshot"});
   const Operation& op = TrouveOperation(LitTexte(valeur, lieuGenre), m, lieuGenre);
-  const Json args = etape.contains("args") ? etape["args"] : Json::array();
+  // By reference: a copy of a deeply nested value would recurse as deep as it goes.
+  static const Json kSansArguments = Json::array();
+  const Json& args = etape.contains("args") ? etape["args"] : kSansArguments;
   AppelPrepare appel = op.prepare(args, Sous(lieu, "args"));
   return EtapeCall{&op, std::move(appel), Snapshot(etape, lieu)};
 }
@@ -141,15 +144,24 @@ Etape LitEtape(const Json& etape, const std::string& lieu, TypeMoteur m, bool& c
 // for the error, so that a deeply nested text costs no more than its depth.
 class GardeDoublons {
  public:
+  GardeDoublons() : pile_(std::make_shared<std::vector<Cadre>>()) {}
+
+  // The place of the value being read when the text stopped (a number too large).
+  std::string LieuCourant() const {
+    if (pile_->empty()) return "";
+    const auto& c = pile_->back();
+    return c.objet ? Sous(Lieu(), c.cle) : Indice(Lieu(), c.indice);
+  }
+
   bool operator()(int, Json::parse_event_t evenement, Json& lu) {
     using E = Json::parse_event_t;
     switch (evenement) {
       case E::object_start:
       case E::array_start:
-        pile_.push_back({evenement == E::object_start, {}, {}, 0});
+        pile_->push_back({evenement == E::object_start, {}, {}, 0});
         break;
       case E::key: {
-        auto& c = pile_.back();
+        auto& c = pile_->back();
         std::string cle = lu.get<std::string>();
         if (!c.cles.insert(cle).second) throw ErreurCas(Sous(Lieu(), cle), "key given twice");
         c.cle = std::move(cle);
@@ -157,7 +169,7 @@ class GardeDoublons {
       }
       case E::object_end:
       case E::array_end:
-        pile_.pop_back();
+        pile_->pop_back();
         Avance();
         break;
       case E::value:
@@ -177,14 +189,16 @@ class GardeDoublons {
   // The path of the innermost object or array.
   std::string Lieu() const {
     std::string lieu;
-    for (std::size_t i = 0; i + 1 < pile_.size(); ++i)
-      lieu = pile_[i].objet ? Sous(lieu, pile_[i].cle) : Indice(lieu, pile_[i].indice);
+    const auto& pile = *pile_;
+    for (std::size_t i = 0; i + 1 < pile.size(); ++i)
+      lieu = pile[i].objet ? Sous(lieu, pile[i].cle) : Indice(lieu, pile[i].indice);
     return lieu;
   }
   void Avance() {
-    if (!pile_.empty() && !pile_.back().objet) ++pile_.back().indice;
+    if (!pile_->empty() && !pile_->back().objet) ++pile_->back().indice;
   }
-  std::vector<Cadre> pile_;
+  // Shared: the parser works on its own copy of this object.
+  std::shared_ptr<std::vector<Cadre>> pile_;
 };
 
 }  // namespace
@@ -192,8 +206,9 @@ class GardeDoublons {
 Json LitTexteJson(const std::string& texte, const std::string& nomEntree) {
   if (texte.find_first_not_of(" \t\r\n") == std::string::npos)
     throw ErreurCas(nomEntree, "empty input");
+  GardeDoublons garde;
   try {
-    return Json::parse(texte, GardeDoublons());
+    return Json::parse(texte, garde);
   } catch (const Json::exception& e) {
     // A syntax error, or a number too large for a double (1e999).
     std::string message = e.what();
@@ -201,6 +216,11 @@ Json LitTexteJson(const std::string& texte, const std::string& nomEntree) {
     if (const auto fin = message.find("] "); message.rfind("[json.exception.", 0) == 0 &&
                                               fin != std::string::npos)
       message = message.substr(fin + 2);
+    // A number too large for a double is valid JSON: the place of the value is named.
+    if (e.id == 406) {
+      const std::string lieu = garde.LieuCourant();
+      throw ErreurCas(lieu.empty() ? nomEntree : lieu, message);
+    }
     throw ErreurCas(nomEntree, "not JSON: " + message);
   }
 }
