@@ -246,7 +246,7 @@ TEST_F(Lookups, CumulHistoriqueOfTheMonthBefore) {
   EXPECT_DOUBLE_EQ(m.dRechercheValeurCumulHistorique(42, "01/03/2024", "BRUT", d, "", "S", 0), 0.0);
   EXPECT_DOUBLE_EQ(m.dRechercheValeurCumulHistorique(44, "01/03/2024", "BASE", d, "", "S", 0), 0.0);
   // By id, the code left aside.
-  EXPECT_DOUBLE_EQ(m.dRechercheValeurCumulHistorique(42, "01/03/2024", "XXX", d, "", "P", 8), 12.0);
+  EXPECT_DOUBLE_EQ(m.dRechercheValeurCumulHistorique(42, "01/03/2024", "SANSCODE", d, "", "P", 8), 12.0);
   // A month given.
   EXPECT_DOUBLE_EQ(
       m.dRechercheValeurCumulHistorique(42, "01/03/2024", "BASE", d, "202403", "S", 0), 1.0);
