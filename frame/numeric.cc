@@ -1,5 +1,4 @@
 // Faults and the checked conversions of doubles to integers.
-#include <cfenv>
 #include <cmath>
 
 #include "orvalis/numeric.h"
