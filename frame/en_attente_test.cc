@@ -94,17 +94,14 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
-      "CalculRubrique_CongesPayes",
       "CalculRubrique_TptNonSubroge",
       "CalculRubrique_Carence",
       "CalculRubrique_CompensationHausseCsg",
-      "CalculRubrique_RetenueCongesPayes",
-      "CalculRubrique_ArbitrageCongesPayes",
       "CalculRubrique_Degressivite",
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 84u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
