@@ -20,9 +20,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
-      "CalculRubrique_Indemnites_journalieres",
-      "Calcul_Indemnites_journalieres",
-      "Calcul_Indemnites_Journalieres_NouvelleMethode",
       "CalculRubrique_Indemnite_Differentielle",
       "CalculRubrique_Indemnite_Differentielle_Nouv",
       "CalculRubrique_Indemnite_Differentielle_Mayotte",
@@ -108,9 +105,6 @@ void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*In
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("CalculRubrique_Indemnites_journalieres"); }
-void MethodeCalculG_Nouv::Calcul_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("Calcul_Indemnites_journalieres"); }
-void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("Calcul_Indemnites_Journalieres_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_Differentielle"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Nouv"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Mayotte"); }

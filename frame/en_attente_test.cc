@@ -19,9 +19,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
-      "CalculRubrique_Indemnites_journalieres",
-      "Calcul_Indemnites_journalieres",
-      "Calcul_Indemnites_Journalieres_NouvelleMethode",
       "CalculRubrique_Indemnite_Differentielle",
       "CalculRubrique_Indemnite_Differentielle_Nouv",
       "CalculRubrique_Indemnite_Differentielle_Mayotte",
@@ -101,7 +98,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 84u);
+  EXPECT_EQ(NomsEnAttente().size(), 81u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
