@@ -20,9 +20,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
-      "CalculRubrique_Indemnite_Differentielle",
-      "CalculRubrique_Indemnite_Differentielle_Nouv",
-      "CalculRubrique_Indemnite_Differentielle_Mayotte",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
@@ -105,9 +102,6 @@ void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*In
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_Differentielle"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Nouv"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Mayotte"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple"); }
 std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, double /*dMntInitial*/) { EnAttente("dMontantProratiseSuivantDemiTraitement"); }
 void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Gipa"); }

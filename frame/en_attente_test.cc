@@ -19,9 +19,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
-      "CalculRubrique_Indemnite_Differentielle",
-      "CalculRubrique_Indemnite_Differentielle_Nouv",
-      "CalculRubrique_Indemnite_Differentielle_Mayotte",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
@@ -98,7 +95,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 81u);
+  EXPECT_EQ(NomsEnAttente().size(), 78u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
