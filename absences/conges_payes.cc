@@ -53,9 +53,8 @@ void MethodeCalculG_Nouv::CalculRubrique_RetenueCongesPayes(VarCalculSalarie& In
                                                             SalarieCalculRubrique& Rubrique) {
   Rubrique.dBase = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique) * -1;
   std::string sType;
-  Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries,
-                                                       RsVarSalariesHisto, Rubrique, sType,
-                                                       RsSalariesHisto);
+  Rubrique.dTauxSalarial = RechercheValeurTauxSalarial(
+      InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, sType, RsSalariesHisto);
   // The rate is a number of days or an amount, not a percentage: no division by 100.
   Rubrique.dMontantSalarial = Rubrique.dTauxSalarial * Rubrique.dBase;
 }

@@ -23,8 +23,8 @@ void MethodeCalculG_Nouv::CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& 
   const double V1 = J * B;
 
   std::string sTypeSalarial;
-  double G = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                                         Rubrique, sTypeSalarial, RsSalariesHisto);
+  double G = RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique,
+                                         sTypeSalarial, RsSalariesHisto);
   if (G == 0) {
     // The reference year runs from June to June, both included: 13 months of gross.
     const int a = K == kJoursCongesPayesAnneeEnCours ? 0 : 1;

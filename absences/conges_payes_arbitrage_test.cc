@@ -17,8 +17,10 @@ class ArbitrageCongesPayes : public PaieAbsences {
     r.sCoeffBase = "UNE CONSTANTE";
     r.lIdCoeffBase = 7;
     HistoriqueParId("202205", 7, 1000.0);
-    for (int mois = 202206; mois <= 202212; ++mois) HistoriqueParId(std::to_string(mois), 7, 2200.0);
-    for (int mois = 202301; mois <= 202306; ++mois) HistoriqueParId(std::to_string(mois), 7, 2200.0);
+    for (int mois = 202206; mois <= 202212; ++mois)
+      HistoriqueParId(std::to_string(mois), 7, 2200.0);
+    for (int mois = 202301; mois <= 202306; ++mois)
+      HistoriqueParId(std::to_string(mois), 7, 2200.0);
     HistoriqueParId("202307", 7, 5000.0);
     HistoriqueParId("202308", 8, 7777.0);  // another total
     r.dTauxPatronal = 7;
@@ -118,8 +120,8 @@ TEST_F(ArbitrageCongesPayes, EgaliteLaPremiereEstEcrite) {
 }
 
 TEST_F(ArbitrageCongesPayes, HistoriqueVide) {
-  m.gRsCumulsHistoriqueSal = NouveauRecordset({"IDSALARIE", "Mois", "CodeCumul", "IdCumul",
-                                               "PartSalariale", "PartPatronale"});
+  m.gRsCumulsHistoriqueSal = NouveauRecordset(
+      {"IDSALARIE", "Mois", "CodeCumul", "IdCumul", "PartSalariale", "PartPatronale"});
   JoursAcquis(250, "J");
   ASSERT_TRUE(Calcule());
   EXPECT_DOUBLE_EQ(r.dTauxSalarial, 100.0);

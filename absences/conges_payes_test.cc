@@ -11,8 +11,8 @@ class CongesPayes : public PaieAbsences {
  protected:
   CongesPayes() {
     BrutDuMois("202305", 1000.0);
-    for (const char* mois : {"202306", "202307", "202308", "202309", "202310", "202311",
-                             "202312", "202401", "202402"})
+    for (const char* mois :
+         {"202306", "202307", "202308", "202309", "202310", "202311", "202312", "202401", "202402"})
       BrutDuMois(mois, 2000.0);
     BrutDuMois("202403", 9999.0);
     CumulRappel("BRUT", 2100.0, 100.0);

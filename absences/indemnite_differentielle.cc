@@ -15,51 +15,64 @@ constexpr double kHeuresMoisMayotte = 169;
 // The index at or below which no allowance is due when the constant is absent or 0.
 constexpr double kIndiceNonImposableParDefaut = 200;
 
-// One half of the month, old rate (IATA, INTA) or new rate (IATN, INTN).
+// A day count of one half, its two quadrants (IATA and INTA, or IATN and INTN).
+struct Paire {
+  Int16 i1, i2;
+};
+
+// One half of the month, old rate or new rate.
 struct Moitie {
-  Int16 iPresence1, iPresence2;
-  Int16 iCFA1, iCFA2, iFormation1, iFormation2, iCPA1, iCPA2, iDemi1, iDemi2, iDispo1, iDispo2;
-  Int16 i90_1, i90_2, iDeuxTiers1, iDeuxTiers2;
+  Paire presence, cfa, formation, cpa, demiTraitement, dispoOffice, traitement90, deuxTiers;
   double dCoefficientTraitement;
   double dCoefficientAutreAbsence;
 };
 
 Moitie AncienTaux(const VarCalculSalarie& s) {
-  return {s.iNBJ_PresenceIATA,       s.iNBJ_PresenceINTA,       s.iNBJ_CFAIATA,
-          s.iNBJ_CFAINTA,            s.iNBJ_CongeFormationIATA, s.iNBJ_CongeFormationINTA,
-          s.iNBJ_CPAIATA,            s.iNBJ_CPAINTA,            s.iNBJ_DemiTraitementIATA,
-          s.iNBJ_DemiTraitementINTA, s.iNBJ_DispoOfficeIATA,    s.iNBJ_DispoOfficeINTA,
-          s.iNBJ_90PourCentTraitementIATA, s.iNBJ_90PourCentTraitementINTA,
-          s.iNBJ_2TiersTraitementIATA,     s.iNBJ_2TiersTraitementINTA,
-          s.dCoefficient_TraitementTA,     s.dCoefficient_INTA};
+  return {.presence = {s.iNBJ_PresenceIATA, s.iNBJ_PresenceINTA},
+          .cfa = {s.iNBJ_CFAIATA, s.iNBJ_CFAINTA},
+          .formation = {s.iNBJ_CongeFormationIATA, s.iNBJ_CongeFormationINTA},
+          .cpa = {s.iNBJ_CPAIATA, s.iNBJ_CPAINTA},
+          .demiTraitement = {s.iNBJ_DemiTraitementIATA, s.iNBJ_DemiTraitementINTA},
+          .dispoOffice = {s.iNBJ_DispoOfficeIATA, s.iNBJ_DispoOfficeINTA},
+          .traitement90 = {s.iNBJ_90PourCentTraitementIATA, s.iNBJ_90PourCentTraitementINTA},
+          .deuxTiers = {s.iNBJ_2TiersTraitementIATA, s.iNBJ_2TiersTraitementINTA},
+          .dCoefficientTraitement = s.dCoefficient_TraitementTA,
+          .dCoefficientAutreAbsence = s.dCoefficient_INTA};
 }
 
 Moitie NouveauTaux(const VarCalculSalarie& s) {
-  return {s.iNBJ_PresenceIATN,       s.iNBJ_PresenceINTN,       s.iNBJ_CFAIATN,
-          s.iNBJ_CFAINTN,            s.iNBJ_CongeFormationIATN, s.iNBJ_CongeFormationINTN,
-          s.iNBJ_CPAIATN,            s.iNBJ_CPAINTN,            s.iNBJ_DemiTraitementIATN,
-          s.iNBJ_DemiTraitementINTN, s.iNBJ_DispoOfficeIATN,    s.iNBJ_DispoOfficeINTN,
-          s.iNBJ_90PourCentTraitementIATN, s.iNBJ_90PourCentTraitementINTN,
-          s.iNBJ_2TiersTraitementIATN,     s.iNBJ_2TiersTraitementINTN,
-          s.dCoefficient_TraitementTN,     s.dCoefficient_INTN};
+  return {.presence = {s.iNBJ_PresenceIATN, s.iNBJ_PresenceINTN},
+          .cfa = {s.iNBJ_CFAIATN, s.iNBJ_CFAINTN},
+          .formation = {s.iNBJ_CongeFormationIATN, s.iNBJ_CongeFormationINTN},
+          .cpa = {s.iNBJ_CPAIATN, s.iNBJ_CPAINTN},
+          .demiTraitement = {s.iNBJ_DemiTraitementIATN, s.iNBJ_DemiTraitementINTN},
+          .dispoOffice = {s.iNBJ_DispoOfficeIATN, s.iNBJ_DispoOfficeINTN},
+          .traitement90 = {s.iNBJ_90PourCentTraitementIATN, s.iNBJ_90PourCentTraitementINTN},
+          .deuxTiers = {s.iNBJ_2TiersTraitementIATN, s.iNBJ_2TiersTraitementINTN},
+          .dCoefficientTraitement = s.dCoefficient_TraitementTN,
+          .dCoefficientAutreAbsence = s.dCoefficient_INTN};
 }
+
+// 16-bit: an overflow is a fault.
+Int16 Moins(Int16 iJours, const Paire& p) { return iJours - p.i1 - p.i2; }
 
 // The floor of one half for the monthly minimum S. The day counts are taken off in 16 bits;
 // the current member then takes off the other absences weighted by their coefficient, in
 // doubles. Half-pay days come back at half weight when the month has a half-pay coefficient.
 double PlancherMoitie(const Moitie& h, const VarCalculSalarie& s, Variante v, double S) {
-  const Int16 P = h.iPresence1 + h.iPresence2;
+  const Int16 P = h.presence.i1 + h.presence.i2;
   if (P == 0) return 0;
-  Int16 iJours = P - h.iCFA1 - h.iCFA2 - h.iFormation1 - h.iFormation2 - h.iCPA1 - h.iCPA2 -
-                 h.iDemi1 - h.iDemi2 - h.iDispo1 - h.iDispo2;
+  Int16 iJours = P;
+  for (const Paire* p : {&h.cfa, &h.formation, &h.cpa, &h.demiTraitement, &h.dispoOffice})
+    iJours = Moins(iJours, *p);
   double dJoursPayes = iJours;
   if (v == Variante::kNouv) {
-    iJours = iJours - h.i90_1 - h.i90_2 - h.iDeuxTiers1 - h.iDeuxTiers2;
+    iJours = Moins(Moins(iJours, h.traitement90), h.deuxTiers);
     dJoursPayes = iJours - h.dCoefficientAutreAbsence * s.dNBJ_AutreAbsenceNS;
   }
   double F = dJoursPayes * h.dCoefficientTraitement * S / 30;
   if (s.dCoefficient_DemiTraitement != 0) {
-    const Int16 iDemi = h.iDemi1 + h.iDemi2;
+    const Int16 iDemi = h.demiTraitement.i1 + h.demiTraitement.i2;
     F = F + h.dCoefficientTraitement * S / 2 * iDemi / 30;
   }
   return F;
@@ -79,7 +92,7 @@ void IndemniteDifferentielle(MoteurCalcul& m, Variante v, VarCalculSalarie& s,
     const double FA = PlancherMoitie(AncienTaux(s), s, v, S);
     const Moitie nouveau = NouveauTaux(s);
     double FN = PlancherMoitie(nouveau, s, v, S);
-    if (v != Variante::kPremiere && nouveau.iPresence1 + nouveau.iPresence2 != 0) {
+    if (v != Variante::kPremiere && nouveau.presence.i1 + nouveau.presence.i2 != 0) {
       // Days to pay scale the new-rate half alone, at 7 hours a day of a 151.67-hour month.
       double N = 0;
       m.dRechercheValeur_VariableBis(*RsVarSalaries, "NBJAPAYER", N);

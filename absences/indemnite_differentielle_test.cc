@@ -202,5 +202,16 @@ TEST_F(IndemniteDifferentielle, DebordementSeizeBitsPiege) {
   EXPECT_DOUBLE_EQ(s.dMt_IndemniteDifferentielle, 9.0);
 }
 
+TEST_F(IndemniteDifferentielle, DebordementDesJoursOtesPiege) {
+  s.iNBJ_PresenceIATA = 1;
+  s.dCoefficient_TraitementTA = 1;
+  s.iNBJ_CFAIATA = 32767;  // 1 - 32767 = -32766 still fits
+  s.iNBJ_CFAINTA = 10;     // -32776 does not
+  EXPECT_FALSE(PremiereGeneration());
+  s.iNBJ_CFAINTA = 2;  // -32768 fits: a negative floor under the base, nothing to pay
+  ASSERT_TRUE(PremiereGeneration());
+  EcritAvec(0.0);
+}
+
 }  // namespace
 }  // namespace orvalis::absences_test

@@ -33,7 +33,7 @@ double BrutDuMois(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
   if (periode::MemeMois(dCurseur, LireDate(m.gPeriodeEncours))) {
     return m.dRechercheValeurCumul("TOTRETCAR", "S") + m.dRechercheValeurCumul("BRUT", "S");
   }
-  const std::string sMois = Droite(sCurseur, 4) + Droite(sCurseur, 7).substr(0, 2);
+  const std::string sMois = CleMoisHistorique(sCurseur);
   return CumulHistoriqueS(m, InfosSalaries, "BRUT", sMois) +
          CumulHistoriqueS(m, InfosSalaries, "TOTIJMALR", sMois) +
          CumulHistoriqueS(m, InfosSalaries, "TOTRETCAR", sMois);
@@ -64,12 +64,13 @@ void EtalePeriode(MoteurCalcul& m, Generation g, const PeriodeIJ& periode,
                   VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
                   SalarieCalculRubrique& Rubrique, bool bIJSubrogees) {
   const Date dFin = LireDate(periode.sDateFin);
-  const double J = Div(periode.dPercu,
-                       static_cast<double>(DiffJours(LireDate(periode.sDateDebut), dFin) + 1));
+  const double J =
+      Div(periode.dPercu, static_cast<double>(DiffJours(LireDate(periode.sDateDebut), dFin) + 1));
   std::string sCurseur = periode.sDateDebut;
   for (;;) {
     const Date dCurseur = LireDate(sCurseur);
-    const Date dDernierDuMois = AjouteJours(AjouteMois(LireDate("01" + Droite(sCurseur, 8)), 1), -1);
+    const Date dDernierDuMois =
+        AjouteJours(AjouteMois(LireDate("01" + Droite(sCurseur, 8)), 1), -1);
     const Date dFinMois = periode::MemeMois(dCurseur, dFin) ? dFin : dDernierDuMois;
     const Int16 N = Int16(DiffJours(dCurseur, LireDate(TexteDate(dFinMois))) + 1);
 
@@ -152,8 +153,7 @@ void CalculIJ_Periode(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
 }
 
 void CalculIJ_Periode_NouvelleMethode(MoteurCalcul& m, const PeriodeIJ& periode,
-                                      VarCalculSalarie& InfosSalaries,
-                                      const RsRef& RsSalariesHisto,
+                                      VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
                                       SalarieCalculRubrique& Rubrique, bool bIJSubrogees) {
   EtalePeriode(m, Generation::kTable, periode, InfosSalaries, RsSalariesHisto, Rubrique,
                bIJSubrogees);

@@ -35,8 +35,7 @@ void CalculIJ_Periode(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
 // contract in it, an unknown type is sickness, and a non-subrogated period feeds its own
 // total.
 void CalculIJ_Periode_NouvelleMethode(MoteurCalcul& m, const PeriodeIJ& periode,
-                                      VarCalculSalarie& InfosSalaries,
-                                      const RsRef& RsSalariesHisto,
+                                      VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
                                       SalarieCalculRubrique& Rubrique, bool bIJSubrogees);
 
 }  // namespace orvalis::ij

@@ -12,11 +12,10 @@ TEST_F(IndemnitesJournalieres, DixAuVingtMarsUneLigne) {
   ASSERT_TRUE(Subrogees());
   // J = 440 / 11 = 40; W = 3100 / 31 days of contract = 100, not below J: R = 11 x 40.
   ASSERT_EQ(NbLignesIJ(), 1u);
-  EXPECT_EQ(r.rsIJ->Columns(),
-            (std::vector<std::string>{"IdSalarie", "NumIJ", "Mois", "SalaireBrut",
-                                      "SalaireJournalier", "SalaireJournalierIJ", "NbJourIJ",
-                                      "IJRetenues", "IJPAS", "NbJourPresenceCalendaire",
-                                      "IJDateDebut", "IJDateFin"}));
+  EXPECT_EQ(r.rsIJ->Columns(), (std::vector<std::string>{
+                                   "IdSalarie", "NumIJ", "Mois", "SalaireBrut", "SalaireJournalier",
+                                   "SalaireJournalierIJ", "NbJourIJ", "IJRetenues", "IJPAS",
+                                   "NbJourPresenceCalendaire", "IJDateDebut", "IJDateFin"}));
   EXPECT_DOUBLE_EQ(NombreIJ(0, "IdSalarie"), 42.0);
   EXPECT_DOUBLE_EQ(NombreIJ(0, "NumIJ"), 1.0);
   EXPECT_EQ(TexteIJ(0, "Mois"), "10/03/2024");
@@ -210,6 +209,21 @@ TEST_F(IndemnitesJournalieres, TableVideEcritUneLigneAZero) {
   ASSERT_TRUE(Subrogees());
   EXPECT_EQ(r.rsIJ, nullptr);
   EXPECT_DOUBLE_EQ(r.dBase, 0.0);
+}
+
+TEST_F(IndemnitesJournalieres, HistoriqueVideLeJournalierIJPartout) {
+  histo = NouveauRecordset({"Mois", "MtBrut"});
+  Periode("M", "28/01/2024", "03/03/2024", 1080.0);
+  ASSERT_TRUE(Subrogees());
+  ASSERT_EQ(NbLignesIJ(), 3u);
+  EXPECT_DOUBLE_EQ(NombreIJ(1, "SalaireJournalier"), 30.0);  // no gross: W = J = 1080 / 36
+  EXPECT_DOUBLE_EQ(s.dTotalIJMaladie, 1080.0);               // (4 + 29 + 3) x 30
+}
+
+TEST_F(IndemnitesJournalieres, SansHistoriquePlafonneEstUneFaute) {
+  histo = nullptr;
+  Periode("M", "10/03/2024", "20/03/2024", 440.0);
+  EXPECT_FALSE(Subrogees());
 }
 
 TEST_F(IndemnitesJournalieres, SansTableDesPeriodesEstUneFaute) {

@@ -15,8 +15,8 @@ class PaieIJ : public PaieAbsences {
   PaieIJ() {
     s.sDateDebut = "01/01/2020";
     s.sMethodeCalculIJ = "E";
-    s.rsIndemnitesJournalieres = NouveauRecordset(
-        {"IJType", "IJDateDebut", "IJDateFin", "IJPercu", "IJSubroge", "IJPAS"});
+    s.rsIndemnitesJournalieres =
+        NouveauRecordset({"IJType", "IJDateDebut", "IJDateFin", "IJPercu", "IJSubroge", "IJPAS"});
   }
 
   void Periode(const std::string& type, const std::string& debut, const std::string& fin,

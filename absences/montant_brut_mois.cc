@@ -5,16 +5,12 @@
 
 namespace orvalis {
 
-namespace {
-// yyyymm of a "dd/mm/yyyy" text: its last four characters, then the two first of its last
-// seven.
 std::string CleMoisHistorique(const std::string& sDate) {
   const auto droite = [&](std::size_t n) {
     return sDate.size() <= n ? sDate : sDate.substr(sDate.size() - n);
   };
   return droite(4) + droite(7).substr(0, 2);
 }
-}  // namespace
 
 double dMontantBrutMois(const RsRef& RsSalariesHisto, const std::string& sDate) {
   Recordset& rs = Source(RsSalariesHisto, "RsSalariesHisto");

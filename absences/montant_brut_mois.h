@@ -13,6 +13,10 @@ namespace orvalis {
 // is a fault, not a zero; so is a missing history.
 double dMontantBrutMois(const RsRef& RsSalariesHisto, const std::string& sDate);
 
+// The month key yyyymm of a "dd/mm/yyyy" text: its last four characters, then the two first
+// of its last seven.
+std::string CleMoisHistorique(const std::string& sDate);
+
 }  // namespace orvalis
 
 #endif  // ORVALIS_ABSENCES_MONTANT_BRUT_MOIS_H_
