@@ -20,12 +20,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
-      "CalculRubrique_Indemnites_journalieres",
-      "Calcul_Indemnites_journalieres",
-      "Calcul_Indemnites_Journalieres_NouvelleMethode",
-      "CalculRubrique_Indemnite_Differentielle",
-      "CalculRubrique_Indemnite_Differentielle_Nouv",
-      "CalculRubrique_Indemnite_Differentielle_Mayotte",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
@@ -95,12 +89,9 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
-      "CalculRubrique_CongesPayes",
       "CalculRubrique_TptNonSubroge",
       "CalculRubrique_Carence",
       "CalculRubrique_CompensationHausseCsg",
-      "CalculRubrique_RetenueCongesPayes",
-      "CalculRubrique_ArbitrageCongesPayes",
       "CalculRubrique_Degressivite",
       "CalculRubrique_ReductionCsgChomage",
   };
@@ -111,12 +102,6 @@ void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*In
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("CalculRubrique_Indemnites_journalieres"); }
-void MethodeCalculG_Nouv::Calcul_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("Calcul_Indemnites_journalieres"); }
-void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("Calcul_Indemnites_Journalieres_NouvelleMethode"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_Differentielle"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Nouv"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Mayotte"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple"); }
 std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, double /*dMntInitial*/) { EnAttente("dMontantProratiseSuivantDemiTraitement"); }
 void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Gipa"); }
@@ -186,12 +171,9 @@ void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusEcrete(VarCalcu
 void MethodeCalculG_Nouv::CalculRubrique_ExonerationZrr(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ExonerationZrr"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaireHoraire"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaire"); }
-void MethodeCalculG_Nouv::CalculRubrique_CongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CongesPayes"); }
 void MethodeCalculG_Nouv::CalculRubrique_TptNonSubroge(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16& /*iTauxTptNonSubroge*/) { EnAttente("CalculRubrique_TptNonSubroge"); }
 void MethodeCalculG_Nouv::CalculRubrique_Carence(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_Carence"); }
 void MethodeCalculG_Nouv::CalculRubrique_CompensationHausseCsg(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CompensationHausseCsg"); }
-void MethodeCalculG_Nouv::CalculRubrique_RetenueCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_RetenueCongesPayes"); }
-void MethodeCalculG_Nouv::CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ArbitrageCongesPayes"); }
 void MethodeCalculG_Nouv::CalculRubrique_Degressivite(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Degressivite"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionCsgChomage(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sCode*/) { EnAttente("CalculRubrique_ReductionCsgChomage"); }
 

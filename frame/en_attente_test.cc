@@ -19,12 +19,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
-      "CalculRubrique_Indemnites_journalieres",
-      "Calcul_Indemnites_journalieres",
-      "Calcul_Indemnites_Journalieres_NouvelleMethode",
-      "CalculRubrique_Indemnite_Differentielle",
-      "CalculRubrique_Indemnite_Differentielle_Nouv",
-      "CalculRubrique_Indemnite_Differentielle_Mayotte",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
@@ -94,17 +88,14 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
-      "CalculRubrique_CongesPayes",
       "CalculRubrique_TptNonSubroge",
       "CalculRubrique_Carence",
       "CalculRubrique_CompensationHausseCsg",
-      "CalculRubrique_RetenueCongesPayes",
-      "CalculRubrique_ArbitrageCongesPayes",
       "CalculRubrique_Degressivite",
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 78u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
