@@ -30,8 +30,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
       "dMontantGIPA",
-      "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
-      "bDeclenchementComplementTauxCotisations",
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
@@ -79,7 +77,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
-      "CalculRubrique_ReductionFillon",
       "CalculRubrique_TraitementIndiciaireElusMois",
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
@@ -92,7 +89,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Ifse",
       "CalculRubrique_Cia",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
-      "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
       "CalculRubrique_CongesPayes",
@@ -121,8 +117,6 @@ void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(Va
 std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, double /*dMntInitial*/) { EnAttente("dMontantProratiseSuivantDemiTraitement"); }
 void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Gipa"); }
 std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& /*InfosSalaries*/, double /*dIM_Debut*/, double /*dPoint_Debut*/, double /*dIM_Fin*/, double /*dPoint_Fin*/, double /*dTauxInflation*/, double /*dHrsHebdo*/, double /*dTauxTempsPartiel*/) { EnAttente("dMontantGIPA"); }
-void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(VarCalculSalarie& /*InfosSalaries*/, double& /*dMtFillonDejaCotise*/, bool /*bCalculFillon*/, bool /*bCalculMSA*/) { EnAttente("RechercheDonneesPourCalculExonerationAllocFamOuFillon"); }
-bool MethodeCalculG_Nouv::bDeclenchementComplementTauxCotisations(VarCalculSalarie& /*InfosSalaries*/, bool /*blnMsa*/) { EnAttente("bDeclenchementComplementTauxCotisations"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
@@ -170,7 +164,6 @@ void MethodeCalculG_Nouv::CalculRubrique_RappelReductionHS(VarCalculSalarie& /*I
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedent"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementBaseParticulier"); }
 void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationFormation"); }
-void MethodeCalculG_Nouv::CalculRubrique_ReductionFillon(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_ReductionFillon"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElusMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedentMois"); }
@@ -183,7 +176,6 @@ void MethodeCalculG_Nouv::CalculRubrique_Ipf(VarCalculSalarie& /*InfosSalaries*/
 void MethodeCalculG_Nouv::CalculRubrique_Ifse(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ifse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Cia(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Cia"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusEcrete"); }
-void MethodeCalculG_Nouv::CalculRubrique_ExonerationZrr(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ExonerationZrr"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaireHoraire"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaire"); }
 void MethodeCalculG_Nouv::CalculRubrique_CongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CongesPayes"); }

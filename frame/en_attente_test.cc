@@ -29,8 +29,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Gipa",
       "dMontantGIPA",
-      "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
-      "bDeclenchementComplementTauxCotisations",
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
@@ -78,7 +76,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
-      "CalculRubrique_ReductionFillon",
       "CalculRubrique_TraitementIndiciaireElusMois",
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
@@ -91,7 +88,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Ifse",
       "CalculRubrique_Cia",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
-      "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
       "CalculRubrique_CongesPayes",
@@ -104,7 +100,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 83u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
