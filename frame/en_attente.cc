@@ -72,8 +72,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_SujetionsSpeciales",
       "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
-      "CalculRubrique_ReductionHS",
-      "CalculRubrique_RappelReductionHS",
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
@@ -97,8 +95,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_CompensationHausseCsg",
       "CalculRubrique_RetenueCongesPayes",
       "CalculRubrique_ArbitrageCongesPayes",
-      "CalculRubrique_Degressivite",
-      "CalculRubrique_ReductionCsgChomage",
   };
   return kEnAttente;
 }
@@ -159,8 +155,6 @@ void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie&
 void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SujetionsSpeciales"); }
 void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, bool /*bOption*/) { EnAttente("CalculRubrique_Mgen"); }
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilialIC(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_SupplementFamilialIC"); }
-void MethodeCalculG_Nouv::CalculRubrique_ReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ReductionHS"); }
-void MethodeCalculG_Nouv::CalculRubrique_RappelReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_RappelReductionHS"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedent"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementBaseParticulier"); }
 void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationFormation"); }
@@ -184,7 +178,5 @@ void MethodeCalculG_Nouv::CalculRubrique_Carence(VarCalculSalarie& /*InfosSalari
 void MethodeCalculG_Nouv::CalculRubrique_CompensationHausseCsg(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CompensationHausseCsg"); }
 void MethodeCalculG_Nouv::CalculRubrique_RetenueCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_RetenueCongesPayes"); }
 void MethodeCalculG_Nouv::CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ArbitrageCongesPayes"); }
-void MethodeCalculG_Nouv::CalculRubrique_Degressivite(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Degressivite"); }
-void MethodeCalculG_Nouv::CalculRubrique_ReductionCsgChomage(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sCode*/) { EnAttente("CalculRubrique_ReductionCsgChomage"); }
 
 }  // namespace orvalis

@@ -71,8 +71,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_SujetionsSpeciales",
       "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
-      "CalculRubrique_ReductionHS",
-      "CalculRubrique_RappelReductionHS",
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
@@ -96,11 +94,9 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_CompensationHausseCsg",
       "CalculRubrique_RetenueCongesPayes",
       "CalculRubrique_ArbitrageCongesPayes",
-      "CalculRubrique_Degressivite",
-      "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 83u);
+  EXPECT_EQ(NomsEnAttente().size(), 79u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
