@@ -28,8 +28,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Indemnite_Differentielle_Mayotte",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
-      "CalculRubrique_Gipa",
-      "dMontantGIPA",
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
@@ -111,8 +109,6 @@ void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(VarCalcul
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Indemnite_Differentielle_Mayotte"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple"); }
 std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, double /*dMntInitial*/) { EnAttente("dMontantProratiseSuivantDemiTraitement"); }
-void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Gipa"); }
-std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& /*InfosSalaries*/, double /*dIM_Debut*/, double /*dPoint_Debut*/, double /*dIM_Fin*/, double /*dPoint_Fin*/, double /*dTauxInflation*/, double /*dHrsHebdo*/, double /*dTauxTempsPartiel*/) { EnAttente("dMontantGIPA"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
