@@ -18,8 +18,6 @@ const std::vector<std::string>& NomsEnAttente() {
   static const std::vector<std::string> kEnAttente = {
       "CalculCoefficientDemiTraitement",
       "CalculRubrique_Retenue_a_la_source",
-      "CalculRubrique_TaxeSalaire_Taux1",
-      "CalculRubrique_TaxeSalaire_Taux2",
       "CalculRubrique_Indemnites_journalieres",
       "Calcul_Indemnites_journalieres",
       "Calcul_Indemnites_Journalieres_NouvelleMethode",
@@ -99,8 +97,6 @@ const std::vector<std::string>& NomsEnAttente() {
 
 void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sType*/) { EnAttente("CalculCoefficientDemiTraitement"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
-void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
-void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("CalculRubrique_Indemnites_journalieres"); }
 void MethodeCalculG_Nouv::Calcul_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("Calcul_Indemnites_journalieres"); }
 void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("Calcul_Indemnites_Journalieres_NouvelleMethode"); }

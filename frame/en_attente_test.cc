@@ -17,8 +17,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
       "CalculCoefficientDemiTraitement",
       "CalculRubrique_Retenue_a_la_source",
-      "CalculRubrique_TaxeSalaire_Taux1",
-      "CalculRubrique_TaxeSalaire_Taux2",
       "CalculRubrique_Indemnites_journalieres",
       "Calcul_Indemnites_journalieres",
       "Calcul_Indemnites_Journalieres_NouvelleMethode",
@@ -94,7 +92,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ArbitrageCongesPayes",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 77u);
+  EXPECT_EQ(NomsEnAttente().size(), 75u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
