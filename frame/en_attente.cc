@@ -29,7 +29,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
-      "CalculRubrique_Imposition_a_la_source_Frontalier",
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
@@ -60,7 +59,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CreditMunicipal",
-      "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
       "CalculRubrique_ComplementDifferentiel35H",
       "CalculRubrique_Iat",
@@ -108,7 +106,6 @@ std::optional<double> MethodeCalculG_Nouv::dMontantProratiseSuivantDemiTraitemen
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
-void MethodeCalculG_Nouv::CalculRubrique_Imposition_a_la_source_Frontalier(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Imposition_a_la_source_Frontalier"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementHoraireMois(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementHoraireMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMoisPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMoisPrecedent"); }
@@ -139,7 +136,6 @@ void MethodeCalculG_Nouv::CalculRubrique_HS_FeriePrec(VarCalculSalarie& /*InfosS
 void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_PrimeInformatique"); }
 void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_FondsSolidarite"); }
 void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_CreditMunicipal"); }
-void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_CnraclRetroactive"); }
 void MethodeCalculG_Nouv::CalculRubrique_Greve(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_Greve"); }
 void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ComplementDifferentiel35H"); }
 void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Iat"); }

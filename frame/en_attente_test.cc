@@ -28,7 +28,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
-      "CalculRubrique_Imposition_a_la_source_Frontalier",
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
@@ -59,7 +58,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CreditMunicipal",
-      "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
       "CalculRubrique_ComplementDifferentiel35H",
       "CalculRubrique_Iat",
@@ -92,7 +90,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ArbitrageCongesPayes",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 75u);
+  EXPECT_EQ(NomsEnAttente().size(), 73u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
