@@ -85,12 +85,11 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_CongesPayes",
       "CalculRubrique_TptNonSubroge",
       "CalculRubrique_Carence",
-      "CalculRubrique_CompensationHausseCsg",
       "CalculRubrique_RetenueCongesPayes",
       "CalculRubrique_ArbitrageCongesPayes",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 73u);
+  EXPECT_EQ(NomsEnAttente().size(), 72u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
