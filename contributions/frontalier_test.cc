@@ -75,6 +75,28 @@ TEST_F(Frontalier, MonthNotWorkedInFull) {
   EXPECT_DOUBLE_EQ(r.dMontantSalarial, 188.0);
 }
 
+// 29 days is not a full month: 29 x 50 = 1450 and 29 x 3000 = 87000; 2880 - 1450 = 1430 at
+// 10 % = 143. 31 days is: the monthly limits, 138.
+TEST_F(Frontalier, DaysAroundAFullMonth) {
+  s.iNBJ_Presence_Total = 29;
+  ASSERT_TRUE(Calcul(4000, 800));
+  EXPECT_DOUBLE_EQ(r.dBase, 1430.0);
+  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 143.0);
+  s.iNBJ_Presence_Total = 31;
+  ASSERT_TRUE(Calcul(4000, 800));
+  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 138.0);
+}
+
+// The day count is multiplied as a number, never in 16 bits: the lowest count gives limits of
+// -32768 x 50 = -1638400 and -32768 x 3000 = -98304000, and the whole net is in the third band:
+// 10 % of 1641280 = 164128, + 20 % of 98306880 = 19825504.
+TEST_F(Frontalier, LowestDayCountDoesNotOverflow) {
+  s.iNBJ_Presence_Total = -32768;
+  ASSERT_TRUE(Calcul(4000, 800));
+  EXPECT_DOUBLE_EQ(r.dBase, 1641280.0);
+  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 19825504.0);
+}
+
 // No day of presence: both limits 0, all in the third band:
 // 10 % of 2880 = 288, + 20 % of 2880 = 864.
 TEST_F(Frontalier, NoDayOfPresence) {

@@ -53,6 +53,16 @@ TEST_F(ExonerationZrr, FullRateOnHousingFundAndTransport) {
   EXPECT_DOUBLE_EQ(r.dMontantPatronal, -35.0);
 }
 
+// Any type but 2 and 3 is the full rate, down to the ends of the 16-bit range.
+TEST_F(ExonerationZrr, ExtremeTypesAreTheFullRate) {
+  Totaux(2000, 1800);
+  for (Int16 type : {Int16(-32768), Int16(0), Int16(4), Int16(32767)}) {
+    r.dMontantPatronal = 9;
+    ASSERT_TRUE(Zrr("REDCOTZRRC", type));
+    EXPECT_DOUBLE_EQ(r.dMontantPatronal, -560.0);
+  }
+}
+
 TEST_F(ExonerationZrr, OtherCodeHasNoRate) {
   Totaux(2000, 1800);
   r.dMontantPatronal = 9;
