@@ -39,7 +39,7 @@ std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& InfosS
   if (dTauxTempsPartiel > 0) G = G * dTauxTempsPartiel / 100;
   // An agent of several employers above the legal week shares the guarantee among them.
   const double K = InfosSalaries.dDureeHebdoLegale != 0 ? InfosSalaries.dDureeHebdoLegale : 35;
-  if (InfosSalaries.dHeuresCumulsHebdo > K) G = G * K / InfosSalaries.dHeuresCumulsHebdo;
+  if (InfosSalaries.dHeuresCumulsHebdo > K) G = Div(G * K, InfosSalaries.dHeuresCumulsHebdo);
   return Arrondi(G, 2);
 }
 

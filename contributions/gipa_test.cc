@@ -87,6 +87,19 @@ TEST_F(Gipa, ShortfallOfZero) {
   EXPECT_EQ(*m.dMontantGIPA(s, 514, 56.2323, 514, 56.2323, 0, 0, 0), 0.0);
 }
 
+// A negative legal week is the cap all the same: 0 cumulated hours are above it, and the
+// share by 0 hours faults.
+TEST_F(Gipa, NegativeLegalWeekWithoutHoursFaults) {
+  s.dDureeHebdoLegale = -5;
+  r.dMontantSalarial = 5;
+  EXPECT_FALSE(Calcul());
+  EXPECT_EQ(r.dMontantSalarial, 5.0);
+  // With 10 hours: 470.1865115 x -5 / 10 = -235.09.
+  s.dHeuresCumulsHebdo = 10;
+  ASSERT_TRUE(Calcul());
+  EXPECT_DOUBLE_EQ(r.dMontantSalarial, -235.09);
+}
+
 TEST_F(Gipa, NoYearNoGipa) {
   s.sGipaAnnee = "";
   r.dMontantSalarial = 5;
