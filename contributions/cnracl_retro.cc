@@ -17,7 +17,7 @@ struct Remboursement {
   double Q = 0;
 };
 
-Remboursement LitRemboursement(MethodeCalculG_Nouv& m, const RsRef& rs, const char* sMensuel,
+Remboursement LitRemboursement(MoteurCalcul& m, const RsRef& rs, const char* sMensuel,
                                const char* sTotal, const char* sRembourse) {
   Remboursement r;
   r.R = m.dRechercheValeur_Variable(rs, sMensuel);
@@ -51,7 +51,7 @@ void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& Inf
 
   if (patronal.R != 0 && patronal.T == 0 && patronal.Q == 0) {
     // A sum without a schedule: paid at once, the employee's side by its base and rate.
-    const LectureLigne l{*this,   InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+    const LectureLigne l{*this,    InfosSalaries,  RsVarSalaries, RsVarSalariesHisto,
                          Rubrique, RsSalariesHisto};
     Rubrique.dBase = l.Base();
     std::string sType;

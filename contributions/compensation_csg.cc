@@ -12,7 +12,7 @@ namespace orvalis {
 namespace {
 
 // The monthly sum before any coefficient, from the variables of the agent.
-double SommeMensuelle(MethodeCalculG_Nouv& m, const RsRef& RsVarSalaries, int iAnnee) {
+double SommeMensuelle(MoteurCalcul& m, const RsRef& RsVarSalaries, int iAnnee) {
   const double R2017 = m.dRechercheValeur_Variable(RsVarSalaries, "R2017");
   const double C2017 = m.dRechercheValeur_Variable(RsVarSalaries, "C2017");
   const double ICCSG2018 = m.dRechercheValeur_Variable(RsVarSalaries, "ICCSG2018");

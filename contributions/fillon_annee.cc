@@ -50,8 +50,8 @@ void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(
     const Date M = AjouteMois(dPeriode, -i);
     const std::string sMois = TexteDate(M);
     double dValeur = 0;
-    s.dAssietteCotAnnuelle += dRechercheValeurCumulHistorique(
-        s.lIdSalarie, gPeriodeEncours, "ASSURSTOT", dValeur, sMois, "S", 0);
+    s.dAssietteCotAnnuelle += dRechercheValeurCumulHistorique(s.lIdSalarie, gPeriodeEncours,
+                                                              "ASSURSTOT", dValeur, sMois, "S", 0);
     double Hm = 0;
     dRechercheHistoriqueMois("SmicHor", Hm, -i);
     double dHeures = 0;
@@ -67,14 +67,14 @@ void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(
       X = Arrondi((dHeures - dHrsSupp) * Hm, 4);
     }
     s.dSmicAnnuelFillon += X;
-    double dPoids = dRechercheValeurConstanteHistorique(gRsConstantesHistorique, sPlafondAF,
-                                                        CleAnneeMois(M));
+    double dPoids =
+        dRechercheValeurConstanteHistorique(gRsConstantesHistorique, sPlafondAF, CleAnneeMois(M));
     if (dPoids == 0) dPoids = kPlafondAFDefaut;
     s.dSmicAnnuelAFPourComparaison += X * dPoids;
     if (bCalculFillon) {
       double dReduction = 0;
-      dRechercheValeurCumulHistorique(s.lIdSalarie, gPeriodeEncours, "REDFILLON", dReduction,
-                                      sMois, "P", 0);
+      dRechercheValeurCumulHistorique(s.lIdSalarie, gPeriodeEncours, "REDFILLON", dReduction, sMois,
+                                      "P", 0);
       // The history holds the reduction as a negative amount: what was taken adds up.
       dMtFillonDejaCotise = dMtFillonDejaCotise - dReduction;
     }
@@ -82,12 +82,12 @@ void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(
 }
 
 bool MethodeCalculG_Nouv::bDeclenchementComplementTauxCotisations(VarCalculSalarie& InfosSalaries,
-                                                                   bool blnMsa) {
+                                                                  bool blnMsa) {
   // Figures already computed this run stand, whatever regime they were computed for.
   if (!InfosSalaries.bCalculFillonDejaRealise) {
     double dMtFillonDejaCotise = 0;
-    RechercheDonneesPourCalculExonerationAllocFamOuFillon(InfosSalaries, dMtFillonDejaCotise,
-                                                          false, blnMsa);
+    RechercheDonneesPourCalculExonerationAllocFamOuFillon(InfosSalaries, dMtFillonDejaCotise, false,
+                                                          blnMsa);
   }
   return InfosSalaries.dAssietteCotAnnuelle > InfosSalaries.dSmicAnnuelAFPourComparaison;
 }

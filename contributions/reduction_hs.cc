@@ -42,7 +42,7 @@ void MethodeCalculG_Nouv::CalculRubrique_RappelReductionHS(VarCalculSalarie& Inf
                                                            const RsRef& RsVarSalaries,
                                                            const RsRef& RsVarSalariesHisto,
                                                            const RsRef& RsSalariesHisto) {
-  const LectureLigne l{*this,   InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+  const LectureLigne l{*this,    InfosSalaries,  RsVarSalaries, RsVarSalariesHisto,
                        Rubrique, RsSalariesHisto};
   Rubrique.dBase = l.Base();
   Rubrique.dTauxSalarial = 0;
@@ -67,7 +67,7 @@ void MethodeCalculG_Nouv::CalculRubrique_Degressivite(VarCalculSalarie& InfosSal
                                                       const RsRef& RsSalariesHisto,
                                                       const RsRef& RsVarSalariesHisto,
                                                       SalarieCalculRubrique& Rubrique) {
-  const LectureLigne l{*this,   InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
+  const LectureLigne l{*this,    InfosSalaries,  RsVarSalaries, RsVarSalariesHisto,
                        Rubrique, RsSalariesHisto};
   Rubrique.dBase = l.Base();
   std::string sType;

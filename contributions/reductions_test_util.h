@@ -54,8 +54,8 @@ class AnneeDePaie : public ::testing::Test {
     paie_test::AjouteCumul(m.gRsCumuls, code, sal, pat, 0);
   }
   void Historique(int mois, const std::string& code, double sal, double pat = 0) {
-    paie_test::AjouteHistorique(m.gRsCumulsHistoriqueSal, s.lIdSalarie, Mois2024(mois), code,
-                                sal, pat);
+    paie_test::AjouteHistorique(m.gRsCumulsHistoriqueSal, s.lIdSalarie, Mois2024(mois), code, sal,
+                                pat);
   }
   // A past month: its base, its paid hours, its overtime hours and the Fillon reduction it
   // took (an employer amount, negative).

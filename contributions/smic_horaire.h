@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/MoteurCalcul.h"
 
 namespace orvalis::reductions {
 
@@ -17,14 +17,13 @@ inline double SmicHoraireLegal(double dSmicHor, double dDureeHebdoLegale) {
 }
 
 // H of the current month, from SmicHor of the statutory values (a null counts as 0).
-inline double SmicHoraireDuMois(MethodeCalculG_Nouv& m, const VarCalculSalarie& InfosSalaries) {
+inline double SmicHoraireDuMois(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries) {
   return SmicHoraireLegal(m.ConstanteFixe("SmicHor"), InfosSalaries.dDureeHebdoLegale);
 }
 
 // A constant of gRsConstantes; an absent code or a value of 0 takes dDefaut, so none of
 // these constants can be set to 0.
-inline double ConstanteOuDefaut(MethodeCalculG_Nouv& m, const std::string& sCode,
-                                double dDefaut) {
+inline double ConstanteOuDefaut(MoteurCalcul& m, const std::string& sCode, double dDefaut) {
   const double d = m.dRechercheValeur_Constantes(m.gRsConstantes, sCode);
   return d == 0 ? dDefaut : d;
 }

@@ -17,7 +17,7 @@ struct Limites {
   double S2;
 };
 
-Limites LimitesDesTranches(MethodeCalculG_Nouv& m, bool bMensuel) {
+Limites LimitesDesTranches(MoteurCalcul& m, bool bMensuel) {
   const double d = bMensuel ? 12 : 1;
   return {Arrondi(m.ConstanteFixe("TxSalaire1") / d, 0),
           Arrondi(m.ConstanteFixe("TxSalaire2") / d, 0)};

@@ -28,7 +28,7 @@ ContributionZrr ContributionDuCode(const VarCalculSalarie& s, const std::string&
 
 // The minimum wage of the month: from the quadrant coefficients for the index models,
 // from the hours paid otherwise.
-double SmicDuMois(MethodeCalculG_Nouv& m, const VarCalculSalarie& s) {
+double SmicDuMois(MoteurCalcul& m, const VarCalculSalarie& s) {
   const double H = reductions::SmicHoraireDuMois(m, s);
   if (s.sTypeModele == "INDTIT" || s.sTypeModele == "INDNTI") {
     return H * 151.67 *
