@@ -171,6 +171,17 @@ TEST_F(ReductionFillon, EmptyTotalsGiveNothing) {
   EXPECT_EQ(r.dMontantPatronal, 0.0);
 }
 
+// The constants by month are the host's to give once the year has a past month.
+TEST_F(ReductionFillon, PastMonthsNeedTheConstantsByMonth) {
+  AnneeAuSmic(1, 1);
+  m.gRsConstantesHistorique = nullptr;
+  r.dMontantPatronal = 9;
+  EXPECT_FALSE(Fillon());
+  EXPECT_EQ(r.dMontantPatronal, 9.0);
+  Janvier(11.65);
+  EXPECT_TRUE(Fillon());
+}
+
 class DonneesAnnee : public AnneeDePaie {
  protected:
   DonneesAnnee() {
