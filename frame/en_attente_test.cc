@@ -17,18 +17,11 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
       "CalculCoefficientDemiTraitement",
       "CalculRubrique_Retenue_a_la_source",
-      "CalculRubrique_TaxeSalaire_Taux1",
-      "CalculRubrique_TaxeSalaire_Taux2",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
-      "CalculRubrique_Gipa",
-      "dMontantGIPA",
-      "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
-      "bDeclenchementComplementTauxCotisations",
       "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
-      "CalculRubrique_Imposition_a_la_source_Frontalier",
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
@@ -59,7 +52,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CreditMunicipal",
-      "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
       "CalculRubrique_ComplementDifferentiel35H",
       "CalculRubrique_Iat",
@@ -67,12 +59,9 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_SujetionsSpeciales",
       "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
-      "CalculRubrique_ReductionHS",
-      "CalculRubrique_RappelReductionHS",
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
-      "CalculRubrique_ReductionFillon",
       "CalculRubrique_TraitementIndiciaireElusMois",
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
@@ -85,17 +74,13 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Ifse",
       "CalculRubrique_Cia",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
-      "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
       "CalculRubrique_TptNonSubroge",
       "CalculRubrique_Carence",
-      "CalculRubrique_CompensationHausseCsg",
-      "CalculRubrique_Degressivite",
-      "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 78u);
+  EXPECT_EQ(NomsEnAttente().size(), 63u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
