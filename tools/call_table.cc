@@ -96,6 +96,8 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
          &N::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
       Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),
+      Op("CalculRetenueSource_DonneesMandat", &N::CalculRetenueSource_DonneesMandat),
+      Op("CalculRetenueSource_Bareme", &N::CalculRetenueSource_Bareme),
       Op("CalculRubrique_Traitement_Indiciaire_Journalier",
          &N::CalculRubrique_Traitement_Indiciaire_Journalier),
       Op("CalculRubrique_Imposition_a_la_source_Frontalier",
