@@ -33,7 +33,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
       "bDeclenchementComplementTauxCotisations",
       "CalculRubrique_Indemnite_transport_Corse",
-      "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_Imposition_a_la_source_Frontalier",
       "CalculRubrique_TraitementHoraireMois",
@@ -124,7 +123,6 @@ std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& /*Info
 void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(VarCalculSalarie& /*InfosSalaries*/, double& /*dMtFillonDejaCotise*/, bool /*bCalculFillon*/, bool /*bCalculMSA*/) { EnAttente("RechercheDonneesPourCalculExonerationAllocFamOuFillon"); }
 bool MethodeCalculG_Nouv::bDeclenchementComplementTauxCotisations(VarCalculSalarie& /*InfosSalaries*/, bool /*blnMsa*/) { EnAttente("bDeclenchementComplementTauxCotisations"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
-void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
 void MethodeCalculG_Nouv::CalculRubrique_Imposition_a_la_source_Frontalier(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Imposition_a_la_source_Frontalier"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementHoraireMois(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementHoraireMois"); }

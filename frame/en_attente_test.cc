@@ -32,7 +32,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
       "bDeclenchementComplementTauxCotisations",
       "CalculRubrique_Indemnite_transport_Corse",
-      "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_Imposition_a_la_source_Frontalier",
       "CalculRubrique_TraitementHoraireMois",
@@ -104,7 +103,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 86u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

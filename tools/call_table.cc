@@ -98,6 +98,8 @@ const std::vector<Operation>& TableDesAppels() {
       Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),
       Op("CalculRetenueSource_DonneesMandat", &N::CalculRetenueSource_DonneesMandat),
       Op("CalculRetenueSource_Bareme", &N::CalculRetenueSource_Bareme),
+      Op("EnregistreDetailRetenueSource_NouvelleMethode",
+         &N::EnregistreDetailRetenueSource_NouvelleMethode),
       Op("CalculRubrique_Traitement_Indiciaire_Journalier",
          &N::CalculRubrique_Traitement_Indiciaire_Journalier),
       Op("CalculRubrique_Imposition_a_la_source_Frontalier",
