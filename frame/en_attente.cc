@@ -17,7 +17,6 @@ namespace {
 const std::vector<std::string>& NomsEnAttente() {
   static const std::vector<std::string> kEnAttente = {
       "CalculCoefficientDemiTraitement",
-      "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
       "CalculRubrique_Indemnites_journalieres",
@@ -107,7 +106,6 @@ const std::vector<std::string>& NomsEnAttente() {
 }
 
 void MethodeCalculG_Nouv::CalculCoefficientDemiTraitement(VarCalculSalarie& /*InfosSalaries*/, const std::string& /*sType*/) { EnAttente("CalculCoefficientDemiTraitement"); }
-void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux1"); }
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TaxeSalaire_Taux2"); }
 void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/, bool /*bIJSubrogees*/) { EnAttente("CalculRubrique_Indemnites_journalieres"); }

@@ -16,7 +16,6 @@ namespace {
 TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
       "CalculCoefficientDemiTraitement",
-      "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_TaxeSalaire_Taux1",
       "CalculRubrique_TaxeSalaire_Taux2",
       "CalculRubrique_Indemnites_journalieres",
@@ -103,7 +102,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 86u);
+  EXPECT_EQ(NomsEnAttente().size(), 85u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

@@ -98,6 +98,7 @@ const std::vector<Operation>& TableDesAppels() {
       Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),
       Op("CalculRetenueSource_DonneesMandat", &N::CalculRetenueSource_DonneesMandat),
       Op("CalculRetenueSource_Bareme", &N::CalculRetenueSource_Bareme),
+      Op("EnregistreDetailRetenueSource", &N::EnregistreDetailRetenueSource),
       Op("EnregistreDetailRetenueSource_NouvelleMethode",
          &N::EnregistreDetailRetenueSource_NouvelleMethode),
       Op("CalculRubrique_Traitement_Indiciaire_Journalier",
