@@ -85,9 +85,10 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& I
   const double dPeriodicite = Value(InfosSalaries.sEluPeriodicite).Nombre();
   const double dMoisPeriode = MoisParPeriode(dPeriodicite);
   // sDateFin plays no part: a mandate ended within the period waits for its end.
-  const bool bFinPeriode = elus::FinDePeriode(static_cast<int>(dMoisPeriode),
-                                              Mois(LireDate(gPeriodeEncours)));
-  if (dCodeBareme != 4 && bFinPeriode) {
+  auto FinPeriode = [&] {
+    return elus::FinDePeriode(static_cast<int>(dMoisPeriode), Mois(LireDate(gPeriodeEncours)));
+  };
+  if (dCodeBareme != 4 && FinPeriode()) {
     Recordset& rsFixes = Source(gRsConstantesFixes, "gRsConstantesFixes");
     const double dFraisAn = InfosSalaries.dIndiceMajoreM * rsFixes.Field("Point").Nombre() *
                             (rsFixes.Field("EluTxFrais").Nombre() / 100);

@@ -49,6 +49,98 @@ double PartTrancheA(Recordset& p, double dPlafondPeriode, double dBrutTheorique,
   return dBrutTheorique * Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
 }
 
+// Tranche A of the principal remuneration over the ceiling periods, to the cent: the
+// allowance paid in each period, or its share of the period's ceiling when the period's
+// allowances pass it. dBrutPlein is the principal remuneration over a full period.
+double TrancheAPrincipal(Recordset& rsIrcantec, double dPlafondPeriode, double dBrutPlein,
+                         double D) {
+  double dTrancheA = 0;
+  PourChaqueLigne(rsIrcantec, [&](Recordset& p) {
+    const double dTotal = Nombre(p, "TotalIndemnitesPeriode");
+    if (dTotal > Nombre(p, "PlafondSSPeriode")) {
+      dTrancheA += Div(dPlafondPeriode * Nombre(p, "IndemniteColleEnCoursPeriode"), dTotal) *
+                   Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
+    } else {
+      dTrancheA += dBrutPlein * Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
+    }
+  });
+  return Arrondi(dTrancheA, 2);
+}
+
+// The URSSAF of a mandate subject to it, on the periods subject to it that the mandate
+// shares: the full base and the capped base, neither rounded. The employer's pension
+// subject to CSG joins the theoretical remuneration at each such period, twice over two
+// periods, as the hosts' figures know it.
+void UrssafMandat(Recordset& m, Recordset& rsUrssaf, double D, const elus::MontantsRetenue& t,
+                  double& dUrssafTot, double& dUrssafPlaf) {
+  double dBrutTheorique = Nombre(m, "MontantRemunerationBruteTheorique");
+  double dBaseTotale = 0;
+  double dBasePlafonnee = 0;
+  PourChaqueLigne(rsUrssaf, [&](Recordset& p) {
+    const bool bSoumis = p.Field("SoumisUrssaf").NombreOuZero() == 1;
+    if (!bSoumis || JoursCommuns(p, m) <= 0) return;
+    dBrutTheorique += Nombre(m, "RetComplPatBruteSoumiseCsg");
+    dBaseTotale += dBrutTheorique * Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
+    const double dTa = Nombre(p, "AssietteTaTotal");
+    const double dTb = Nombre(p, "AssietteTbTotal");
+    if (dTa + dTb == 0) {
+      dBasePlafonnee += PartTrancheA(p, t.dPlafondPeriode, dBrutTheorique, D);
+    } else {
+      dBasePlafonnee += dBrutTheorique * (dTa / (dTa + dTb)) *
+                        Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
+    }
+  });
+  dUrssafTot = t.dTauxUrssafTot * dBaseTotale / 100;
+  dUrssafPlaf = dBasePlafonnee * t.dTauxUrssafPlaf / 100;
+}
+
+// One mandate of the period: its IRCANTEC tranches on the ceiling periods it shares, its
+// URSSAF, CSG and net, written back into its row; its net, its employer's pension and its
+// expenses join the totals.
+void CalculeMandat(Recordset& m, Recordset& rsIrcantec, Recordset& rsUrssaf, double D,
+                   elus::MontantsRetenue& t) {
+  const double dBrutMandat = Nombre(m, "MontantRemunerationBrute");
+  const double dBrutTheorique = Nombre(m, "MontantRemunerationBruteTheorique");
+
+  double dTrancheA = 0;
+  PourChaqueLigne(rsIrcantec, [&](Recordset& p) {
+    if (JoursCommuns(p, m) > 0) dTrancheA += PartTrancheA(p, t.dPlafondPeriode, dBrutTheorique, D);
+  });
+  dTrancheA = Arrondi(dTrancheA, 2);
+  const double dTrancheB = Arrondi(dBrutMandat - dTrancheA, 2);
+  const double dIrcA = t.dTauxTA * dTrancheA / 100;
+  const double dIrcB = t.dTauxTB * dTrancheB / 100;
+
+  double dUrssafTot = 0;
+  double dUrssafPlaf = 0;
+  if (m.Field("SoumiseUrssaf").NombreOuZero() != 0)
+    UrssafMandat(m, rsUrssaf, D, t, dUrssafTot, dUrssafPlaf);
+
+  const double dCsg = dBrutMandat * t.dCoefCsg * t.dTauxCsg / 100;
+  const double dCotisations = dIrcA + dIrcB + dCsg + (dUrssafPlaf + dUrssafTot);
+  const double dNet = dBrutMandat - dCotisations;
+  t.dNetMandats += dNet;
+
+  m.SetField("MontantPlafond", Value(0.0));
+  m.SetField("MontantCotisations", Value(dCotisations));
+  m.SetField("MontantCotisationIrcantecTA", Value(dIrcA));
+  m.SetField("MontantCotisationIrcantecTB", Value(dIrcB));
+  m.SetField("MontantCotisationCSG", Value(dCsg));
+  m.SetField("MontantRemunerationNette", Value(dNet));
+  m.SetField("MontantTotalFraisInd", Value(0.0));
+  m.SetField("MontantCotisationUrssafPlaf", Value(dUrssafPlaf));
+  m.SetField("MontantCotisationUrssafTot", Value(dUrssafTot));
+
+  t.dNetMandats += Nombre(m, "RetComplPatBruteSoumiseCsg") * (1 - t.dTauxCsg * t.dCoefCsg / 100) +
+                   Nombre(m, "RetComplPatBrutePasSoumiseCsg");
+
+  if (dNet > 0) {
+    const double dFrais = std::min(dNet, t.dFraisMandat);
+    t.dFraisTotal += dFrais;
+    m.SetField("MontantTotalFraisInd", Value(dFrais));
+  }
+}
+
 // Periodicity of payment read as a text: "2", "3", "4"; any other text is monthly.
 bool EstMensuel(const std::string& sPeriodicite) {
   return sPeriodicite != "2" && sPeriodicite != "3" && sPeriodicite != "4";
@@ -75,12 +167,15 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
   Recordset& rsDetail = *Rubrique.rsRetenueALaSourceNouvelleMethode;
   Recordset& rsAutres = Source(InfosSalaries.rsAutresIndemnites, "rsAutresIndemnites");
 
+  // Calculated when the official has opted for the withholding (iEluChoixImpot neither 1
+  // nor 2), at the end of a payment period or in the month the mandate ends.
   const bool bOpte = InfosSalaries.iEluChoixImpot != 1 && InfosSalaries.iEluChoixImpot != 2;
-  const bool bFinPeriode =
-      elus::FinDePeriode(MoisParPeriode(InfosSalaries.sEluPeriodicite),
-                         Mois(LireDate(gPeriodeEncours))) ||
-      elus::DernierMoisMandat(InfosSalaries.sDateFin, gPeriodeEncours);
-  if (bOpte && bFinPeriode) {
+  auto FinPeriode = [&] {
+    return elus::FinDePeriode(MoisParPeriode(InfosSalaries.sEluPeriodicite),
+                              Mois(LireDate(gPeriodeEncours))) ||
+           elus::DernierMoisMandat(InfosSalaries.sDateFin, gPeriodeEncours);
+  };
+  if (bOpte && FinPeriode()) {
     double dPeriodesAn = 0;
     CalculRetenueSource_DonneesMandat(InfosSalaries, t.dFraisMandat, t.dPlafondPeriode,
                                       dPeriodesAn, t.dMoisPeriode, t.dCoefBareme);
@@ -112,17 +207,7 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
     const double D = t.dMoisPeriode * 30;
     Recordset& rsIrcantec =
         Source(InfosSalaries.RsPlafondIrcantecPeriodes, "RsPlafondIrcantecPeriodes");
-    double dTrancheA = 0;
-    PourChaqueLigne(rsIrcantec, [&](Recordset& p) {
-      const double dTotal = Nombre(p, "TotalIndemnitesPeriode");
-      if (dTotal > Nombre(p, "PlafondSSPeriode")) {
-        dTrancheA += Div(t.dPlafondPeriode * Nombre(p, "IndemniteColleEnCoursPeriode"), dTotal) *
-                     Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
-      } else {
-        dTrancheA += dBrutPlein * Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
-      }
-    });
-    dTrancheA = Arrondi(dTrancheA, 2);
+    const double dTrancheA = TrancheAPrincipal(rsIrcantec, t.dPlafondPeriode, dBrutPlein, D);
     const double dTrancheB = Arrondi(dBrutPrincipal - dTrancheA, 2);
     t.dIrcA = t.dTauxTA * dTrancheA / 100;
     t.dIrcB = t.dTauxTB * dTrancheB / 100;
@@ -149,69 +234,7 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
 
     Recordset& rsUrssaf = Source(InfosSalaries.RsPlafondUrssafPeriodes, "RsPlafondUrssafPeriodes");
     PourChaqueLigne(rsAutres, [&](Recordset& m) {
-      if (!elus::EstFaux(m.Field("Salaire"))) return;
-      const double dBrutMandat = Nombre(m, "MontantRemunerationBrute");
-      double dBrutTheorique = Nombre(m, "MontantRemunerationBruteTheorique");
-
-      double dTrancheAMandat = 0;
-      PourChaqueLigne(rsIrcantec, [&](Recordset& p) {
-        if (JoursCommuns(p, m) > 0)
-          dTrancheAMandat += PartTrancheA(p, t.dPlafondPeriode, dBrutTheorique, D);
-      });
-      dTrancheAMandat = Arrondi(dTrancheAMandat, 2);
-      const double dTrancheBMandat = Arrondi(dBrutMandat - dTrancheAMandat, 2);
-      const double dIrcAMandat = t.dTauxTA * dTrancheAMandat / 100;
-      const double dIrcBMandat = t.dTauxTB * dTrancheBMandat / 100;
-
-      double dUrssafTotMandat = 0;
-      double dUrssafPlafMandat = 0;
-      if (m.Field("SoumiseUrssaf").NombreOuZero() != 0) {
-        double dBaseTotale = 0;
-        double dBasePlafonnee = 0;
-        PourChaqueLigne(rsUrssaf, [&](Recordset& p) {
-          const bool bSoumis = p.Field("SoumisUrssaf").NombreOuZero() == 1;
-          if (!bSoumis || JoursCommuns(p, m) <= 0) return;
-          // Added at each such period: twice over two periods, as the hosts' figures know it.
-          dBrutTheorique += Nombre(m, "RetComplPatBruteSoumiseCsg");
-          dBaseTotale += dBrutTheorique * Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
-          const double dTa = Nombre(p, "AssietteTaTotal");
-          const double dTb = Nombre(p, "AssietteTbTotal");
-          if (dTa + dTb == 0) {
-            dBasePlafonnee += PartTrancheA(p, t.dPlafondPeriode, dBrutTheorique, D);
-          } else {
-            dBasePlafonnee += dBrutTheorique * (dTa / (dTa + dTb)) *
-                              Nombre(p, "NbJourPeriodeSurPaieMoisEnCours") / D;
-          }
-        });
-        dUrssafTotMandat = t.dTauxUrssafTot * dBaseTotale / 100;
-        dUrssafPlafMandat = dBasePlafonnee * t.dTauxUrssafPlaf / 100;
-      }
-
-      const double dCsgMandat = dBrutMandat * t.dCoefCsg * t.dTauxCsg / 100;
-      const double dCotisations =
-          dIrcAMandat + dIrcBMandat + dCsgMandat + (dUrssafPlafMandat + dUrssafTotMandat);
-      const double dNetMandat = dBrutMandat - dCotisations;
-      t.dNetMandats += dNetMandat;
-
-      m.SetField("MontantPlafond", Value(0.0));
-      m.SetField("MontantCotisations", Value(dCotisations));
-      m.SetField("MontantCotisationIrcantecTA", Value(dIrcAMandat));
-      m.SetField("MontantCotisationIrcantecTB", Value(dIrcBMandat));
-      m.SetField("MontantCotisationCSG", Value(dCsgMandat));
-      m.SetField("MontantRemunerationNette", Value(dNetMandat));
-      m.SetField("MontantTotalFraisInd", Value(0.0));
-      m.SetField("MontantCotisationUrssafPlaf", Value(dUrssafPlafMandat));
-      m.SetField("MontantCotisationUrssafTot", Value(dUrssafTotMandat));
-
-      t.dNetMandats += Nombre(m, "RetComplPatBruteSoumiseCsg") *
-                           (1 - t.dTauxCsg * t.dCoefCsg / 100) +
-                       Nombre(m, "RetComplPatBrutePasSoumiseCsg");
-
-      if (dNetMandat > 0) {
-        const double dFraisMandat = std::min(dNetMandat, t.dFraisMandat);
-        t.dFraisTotal += dFraisMandat;
-        m.SetField("MontantTotalFraisInd", Value(dFraisMandat));
-      }
+      if (elus::EstFaux(m.Field("Salaire"))) CalculeMandat(m, rsIrcantec, rsUrssaf, D, t);
     });
 
     // All the mandates together get at most one and a half allowances.

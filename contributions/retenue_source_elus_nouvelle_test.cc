@@ -326,6 +326,16 @@ TEST_F(RetenueNouvelle, NotOptedGivesZerosAndAZeroDetail) {
   }
 }
 
+TEST_F(RetenueNouvelle, NotOptedReadsNoPayMonth) {
+  s.iEluChoixImpot = 2;
+  m.gPeriodeEncours = "";
+  Calcule();
+  ExpectLigne(0.0, 0.0);
+  m.gPeriodeEncours = "pas une date";
+  s.iEluChoixImpot = 0;
+  EXPECT_THROW(Calcule(), Fault);
+}
+
 // The mayor's URSSAF: 2000 x 0.4 % + 2000 x 6.9 % = 146; net 1662, taxable 1612:
 // 10 % less 100 = 61.20.
 TEST_F(RetenueNouvelle, PrincipalRemunerationBearsUrssafForTheMayorModel) {
