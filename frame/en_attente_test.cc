@@ -16,11 +16,9 @@ namespace {
 TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
       "CalculCoefficientDemiTraitement",
-      "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Indemnite_transport_Corse",
-      "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
@@ -80,7 +78,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Carence",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 63u);
+  EXPECT_EQ(NomsEnAttente().size(), 61u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

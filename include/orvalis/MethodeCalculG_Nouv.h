@@ -218,6 +218,23 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   // A new, empty detail table of the officials' tax at source (rsPrelevementSourceElus).
   RsRef EnregistreDetailPrelevementElu();
 
+  // ---- Withholding on elected officials' allowances (contributions/) ---------------------
+  // New, empty detail tables of the withholding: the historic one (rsRetenueALaSource) and
+  // the one of the new method (rsRetenueALaSourceNouvelleMethode).
+  RsRef EnregistreDetailRetenueSource();
+  RsRef EnregistreDetailRetenueSource_NouvelleMethode();
+  // The frame of one payment period of the official: the expenses allowance of a mandate,
+  // the social security ceiling of the period, periods a year, months a period, and the
+  // coefficient that brings a constant of the tax scale to the payment periodicity.
+  void CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries, double& dFraisMandat,
+                                         double& dPlafondPeriode, double& dPeriodesAn,
+                                         double& dMoisPeriode, double& dCoefBareme);
+  // The tranche of the officials' tax scale for a net taxable amount of the period.
+  void CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries, double dNetImposable,
+                                  double dPeriodesAn, double& dTauxTranche,
+                                  double& dTrancheBasse, double& dTrancheHaute,
+                                  double& dConstante);
+
   // ---- Salary elements (salary/) ---------------------------------------------------------
   void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
                                             const std::string& sPeriode);
