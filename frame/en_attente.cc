@@ -39,8 +39,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
-      "CalculRubrique_TraitementIndiciaireElus",
-      "CalculRubrique_TraitementForfaitaireElus",
       "CalculRubrique_DemiTraitementIndiciaire",
       "CalculRubrique_AllocationComplementaireMaladie",
       "CalculRubrique_AllocationComplementaireMaladieNbi",
@@ -76,13 +74,9 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_SupplementFamilialIC",
       "CalculRubrique_ReductionHS",
       "CalculRubrique_RappelReductionHS",
-      "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
       "CalculRubrique_ReductionFillon",
-      "CalculRubrique_TraitementIndiciaireElusMois",
-      "CalculRubrique_TraitementForfaitaireElusMois",
-      "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
       "CalculRubrique_IndemniteFormation",
       "CalculRubrique_MontantReference",
       "CalculRubrique_ReversementSFT",
@@ -91,7 +85,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_Ipf",
       "CalculRubrique_Ifse",
       "CalculRubrique_Cia",
-      "CalculRubrique_TraitementIndiciaireElusEcrete",
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
@@ -130,8 +123,6 @@ void MethodeCalculG_Nouv::CalculRubrique_Imposition_a_la_source_Frontalier(VarCa
 void MethodeCalculG_Nouv::CalculRubrique_TraitementHoraireMois(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementHoraireMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMoisPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireMoisPrecedent"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElus"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElus"); }
 void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementIndiciaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_DemiTraitementIndiciaire"); }
 void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladie(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationComplementaireMaladie"); }
 void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladieNbi(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationComplementaireMaladieNbi"); }
@@ -167,13 +158,9 @@ void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& /*InfosSalaries*
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilialIC(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_SupplementFamilialIC"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ReductionHS"); }
 void MethodeCalculG_Nouv::CalculRubrique_RappelReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_RappelReductionHS"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedent"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementBaseParticulier"); }
 void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationFormation"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionFillon(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_ReductionFillon"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusMois"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElusMois"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedentMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteFormation"); }
 void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_MontantReference"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReversementSFT(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ReversementSFT"); }
@@ -182,7 +169,6 @@ void MethodeCalculG_Nouv::CalculRubrique_Irf(VarCalculSalarie& /*InfosSalaries*/
 void MethodeCalculG_Nouv::CalculRubrique_Ipf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ipf"); }
 void MethodeCalculG_Nouv::CalculRubrique_Ifse(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ifse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Cia(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Cia"); }
-void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusEcrete"); }
 void MethodeCalculG_Nouv::CalculRubrique_ExonerationZrr(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ExonerationZrr"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaireHoraire"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaire"); }

@@ -38,8 +38,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
-      "CalculRubrique_TraitementIndiciaireElus",
-      "CalculRubrique_TraitementForfaitaireElus",
       "CalculRubrique_DemiTraitementIndiciaire",
       "CalculRubrique_AllocationComplementaireMaladie",
       "CalculRubrique_AllocationComplementaireMaladieNbi",
@@ -75,13 +73,9 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_SupplementFamilialIC",
       "CalculRubrique_ReductionHS",
       "CalculRubrique_RappelReductionHS",
-      "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
       "CalculRubrique_ReductionFillon",
-      "CalculRubrique_TraitementIndiciaireElusMois",
-      "CalculRubrique_TraitementForfaitaireElusMois",
-      "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
       "CalculRubrique_IndemniteFormation",
       "CalculRubrique_MontantReference",
       "CalculRubrique_ReversementSFT",
@@ -90,7 +84,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Ipf",
       "CalculRubrique_Ifse",
       "CalculRubrique_Cia",
-      "CalculRubrique_TraitementIndiciaireElusEcrete",
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
@@ -104,7 +97,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 80u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
