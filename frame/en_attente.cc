@@ -44,9 +44,7 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_AllocationComplementaireMaladieNbi",
       "CalculRubrique_BonificationIndiciaire",
       "CalculRubrique_DemiTraitementBonification",
-      "CalculRubrique_IndemniteResidence",
       "CalculRubrique_IndemniteCoordination",
-      "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
       "CalculRubrique_HeuresComplementaires",
@@ -79,7 +77,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_ReductionFillon",
       "CalculRubrique_IndemniteFormation",
       "CalculRubrique_MontantReference",
-      "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
       "CalculRubrique_Irf",
       "CalculRubrique_Ipf",
@@ -128,9 +125,7 @@ void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladie(VarCalc
 void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladieNbi(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationComplementaireMaladieNbi"); }
 void MethodeCalculG_Nouv::CalculRubrique_BonificationIndiciaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_BonificationIndiciaire"); }
 void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementBonification(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_DemiTraitementBonification"); }
-void MethodeCalculG_Nouv::CalculRubrique_IndemniteResidence(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteResidence"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteCoordination(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_IndemniteCoordination"); }
-void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SupplementFamilial"); }
 void MethodeCalculG_Nouv::CalculRubrique_CPA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CPA"); }
 void MethodeCalculG_Nouv::CalculRubrique_CFA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CFA"); }
 void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementaires(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HeuresComplementaires"); }
@@ -163,7 +158,6 @@ void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& /
 void MethodeCalculG_Nouv::CalculRubrique_ReductionFillon(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_ReductionFillon"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteFormation"); }
 void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_MontantReference"); }
-void MethodeCalculG_Nouv::CalculRubrique_ReversementSFT(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ReversementSFT"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementJournalierSmic(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementJournalierSmic"); }
 void MethodeCalculG_Nouv::CalculRubrique_Irf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Irf"); }
 void MethodeCalculG_Nouv::CalculRubrique_Ipf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ipf"); }

@@ -43,9 +43,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_AllocationComplementaireMaladieNbi",
       "CalculRubrique_BonificationIndiciaire",
       "CalculRubrique_DemiTraitementBonification",
-      "CalculRubrique_IndemniteResidence",
       "CalculRubrique_IndemniteCoordination",
-      "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
       "CalculRubrique_HeuresComplementaires",
@@ -78,7 +76,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionFillon",
       "CalculRubrique_IndemniteFormation",
       "CalculRubrique_MontantReference",
-      "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
       "CalculRubrique_Irf",
       "CalculRubrique_Ipf",
@@ -97,7 +94,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 80u);
+  EXPECT_EQ(NomsEnAttente().size(), 77u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
