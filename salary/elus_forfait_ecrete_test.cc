@@ -9,12 +9,9 @@ namespace {
 class ForfaitElus : public indemnites_test::PaieIndemnites {
  protected:
   ForfaitElus() {
-    s.sTypeModele = "ELUS";
-    s.sDateDebut = "01/01/2020";
-    s.sEluPeriodicite = "1";
+    Maire();
     s.dEluForfait = 500;
     s.dIndiceMajoreM = 830;
-    s.iNBJ_PresenceN = 30;
   }
 };
 
@@ -84,7 +81,6 @@ TEST_F(ForfaitElus, MonthLine) {
 class EcreteElus : public indemnites_test::PaieIndemnites {
  protected:
   EcreteElus() {
-    Constante("INDMAJELU", 830);
     Constante("INDPARL1", 1070);
     Constante("INDPARL2", 1270);
     Constante("COEFPLAFEC", 2.5);
@@ -94,12 +90,7 @@ class EcreteElus : public indemnites_test::PaieIndemnites {
     Taux("URSRGVEU", 0.4);
     Taux("URSRGMAL", 0.0);
     Taux("URSRGVIEP", 6.9);
-    s.sTypeModele = "ELUS";
-    s.sDateDebut = "01/01/2020";
-    s.sEluPeriodicite = "1";
-    s.dTauxMaire = 51.6;
-    s.dCoefficient_Traitement = 0.516;
-    s.iNBJ_PresenceN = 30;
+    Maire();
   }
 };
 

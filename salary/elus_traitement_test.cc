@@ -14,14 +14,7 @@ constexpr double kMois = 2108.32956;  // 4085.91 x 0.516
 class TraitementElus : public indemnites_test::PaieIndemnites {
  protected:
   TraitementElus() {
-    Constante("INDMAJELU", 830);
-    s.sTypeModele = "ELUS";
-    s.sDateDebut = "01/01/2020";
-    s.sEluPeriodicite = "1";
-    s.dTauxMaire = 51.6;
-    s.dCoefficient_Traitement = 0.516;
-    s.iNBJ_PresenceA = 0;
-    s.iNBJ_PresenceN = 30;
+    Maire();
     PointHistorique(202301, 202306, 58.2004);
     PointHistorique(202307, 202402, indemnites_test::kPoint);
   }

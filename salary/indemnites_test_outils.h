@@ -30,6 +30,19 @@ class PaieIndemnites : public paie_test::PaieDeMarsCommune {
     r.dMontantPatronal = -1;
   }
 
+  // A mayor paid monthly at 51.6 % of the reference index 830, present all month on the
+  // new rate, in office since 2020.
+  void Maire() {
+    Constante("INDMAJELU", 830);
+    s.sTypeModele = "ELUS";
+    s.sDateDebut = "01/01/2020";
+    s.sEluPeriodicite = "1";
+    s.dTauxMaire = 51.6;
+    s.dCoefficient_Traitement = 0.516;
+    s.iNBJ_PresenceA = 0;
+    s.iNBJ_PresenceN = 30;
+  }
+
   void Taux(const std::string& code, const Value& sal) {
     m.gRsTaux->AddNew();
     m.gRsTaux->SetField("CodeTaux", code);
