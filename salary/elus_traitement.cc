@@ -58,6 +58,7 @@ void MoisDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bAncien, doubl
 // month of entry. The month of the change adds its own side's share.
 double MoisAnterieursDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bAncien,
                             double dTaux, int K) {
+  if (K <= 0) return 0;
   const Date dPeriode = LireDate(m.gPeriodeEncours);
   const Date dChangement = PremierJourDuMois(LireDate(s.sDateChangementTauxElus));
   double dTotal = 0;

@@ -30,6 +30,15 @@ TEST_F(TraitementElus, MonthlyFullMonth) {
   EXPECT_EQ(s.dCoefficient_INouveau, 1);
 }
 
+TEST_F(TraitementElus, OtherModelKeepsTheSharesItHas) {
+  // No split of the month by rate and no change date for a model other than "ELUS".
+  s.sTypeModele = "INDTIT";
+  s.dCoefficient_INouveau = 0.5;
+  ASSERT_TRUE(Calcule("TRAITEMENT INDICIAIRE ELUS"));
+  Ligne(kPlein, 830, kMois / 2);  // 0.5 x 4085.91 x 0.516 x 30 / 30
+  EXPECT_EQ(s.sDateChangementTauxElus, "");
+}
+
 TEST_F(TraitementElus, NullPointReadsZero) {
   Fixe("Point", Value());
   ASSERT_TRUE(Calcule("TRAITEMENT INDICIAIRE ELUS"));
