@@ -39,6 +39,11 @@ TEST_F(TraitementElus, OtherModelKeepsTheSharesItHas) {
   EXPECT_EQ(s.sDateChangementTauxElus, "");
 }
 
+TEST_F(TraitementElus, DayCountOverflowFaults) {
+  s.iNBJ_PresenceA = -32767;  // 30 - (-32767) is past 16 bits
+  EXPECT_FALSE(Calcule("TRAITEMENT INDICIAIRE ELUS"));
+}
+
 TEST_F(TraitementElus, NullPointReadsZero) {
   Fixe("Point", Value());
   ASSERT_TRUE(Calcule("TRAITEMENT INDICIAIRE ELUS"));
@@ -139,6 +144,17 @@ TEST_F(ChangementTauxElus, NewRateFromTheMonthOfTheChange) {
   EXPECT_EQ(s.dCoefficient_IAncien, 0);
   EXPECT_EQ(s.iNBJ_PresenceN, 30);
   EXPECT_EQ(s.iNBJ_PresenceA, 0);
+}
+
+TEST_F(ChangementTauxElus, ChangeOnThe31stOfJanuaryLeavesJanuaryOnTheFormerRate) {
+  s.sDateChangementTauxElus = "31/01/2024";
+  ASSERT_TRUE(Calcule("TRAITEMENT INDICIAIRE ELUS"));
+  // January: 30 days before the 31st, 0 after: 2108.32956 x 0/30; 30 - 30 leaves it.
+  Ligne(kPlein, 830, 2 * kMois);
+  s.dSalarie_MensuelA = 0;
+  ASSERT_TRUE(Calcule("TRAITEMENT INDICIAIRE ELUS PRECEDENT"));
+  // January: 1646.62173 x 30/30 x 30 / (30 - 0).
+  Ligne(kPlein, 830, 1646.62173);
 }
 
 TEST_F(ChangementTauxElus, FormerRateUpToTheChange) {

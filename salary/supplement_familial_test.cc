@@ -185,6 +185,13 @@ TEST_F(SupplementFamilial, AvailabilityDaysAfterTheSupplementIsKept) {
   EXPECT_NEAR(s.dMontant_SFT, 84.51, 1e-9);  // before availability
 }
 
+TEST_F(SupplementFamilial, DayCountOverflowFaults) {
+  s.iNBJ_Presence_Total = -32768;
+  s.iNBJ_CFA_Total = 1;
+  s.iEnfant_ACharge = 2;
+  EXPECT_FALSE(Calcule("SUPPLEMENT FAMILIAL"));
+}
+
 TEST_F(SupplementFamilial, QuadrantShareOfTheSupplement) {
   // 84.51 x 0.5 x (2/3) x (20 - 5) / ((2/3) x 30) = 21.1275; no share without days.
   EXPECT_NEAR(indemnites::dSupplementFamilialArrondi(84.51, 0.5, 2.0 / 3, 20, 5), 21.1275, 1e-9);
