@@ -124,6 +124,9 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMinHistorique", &M::dRechercheIndMinHistorique),
       Op("dRechercheHistoriqueMois", &M::dRechercheHistoriqueMois),
       Op("dRechercheSmicHistorique", &M::dRechercheSmicHistorique),
+      // The officials' reference index and the allowance of an earlier month.
+      Op("dRechercheIndMajElu", &N::dRechercheIndMajElu),
+      Op("dRechercheIndMajEluPeriode", &N::dRechercheIndMajEluPeriode),
 
       // ---- Resolvers of the generic pay lines ------------------------------------------------
       Op("RechercheValeurBase", &N::RechercheValeurBase),

@@ -376,6 +376,19 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   void CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& InfosSalaries,
                                                      SalarieCalculRubrique& Rubrique);
 
+  // ---- Elected officials' reference index (salary/) --------------------------------------
+  // The reference index of the month sPeriode moved back sDecalage months (a number as a
+  // text): dValeur when it is not 0; otherwise 820 before 11/2006, 821 before 2017, then the
+  // constant "INDMAJELU". Into dValeur; gives dValeur.
+  double dRechercheIndMajElu(double& dValeur, const std::string& sPeriode,
+                             const std::string& sDecalage);
+  // The allowance of the month sPeriode moved back sDecalage months, on that month's point
+  // and index, times the rate dTaux (a coefficient; -1 takes the mandate's own rate). Into
+  // dResultat; gives dResultat.
+  double dRechercheIndMajEluPeriode(VarCalculSalarie& InfosSalaries, const std::string& sPeriode,
+                                    const std::string& sDecalage, double& dResultat,
+                                    double dTaux);
+
   // ---- Absences and replacement income (absences/) ---------------------------------------
   void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
                                               SalarieCalculRubrique& Rubrique,
