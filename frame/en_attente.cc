@@ -51,24 +51,11 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
-      "CalculRubrique_HeuresComplementaires",
-      "CalculRubrique_HeuresComplementairesPrec",
-      "CalculRubrique_HS_Moins14",
-      "CalculRubrique_HS_Moins14Prec",
-      "CalculRubrique_HS_Plus14",
-      "CalculRubrique_HS_Plus14Prec",
-      "CalculRubrique_HS_Nuit",
-      "CalculRubrique_HS_NuitPrec",
-      "CalculRubrique_HS_NuitFeriePlus14",
-      "CalculRubrique_HS_NuitFeriePlus14Prec",
-      "CalculRubrique_HS_Ferie",
-      "CalculRubrique_HS_FeriePrec",
       "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CreditMunicipal",
       "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
-      "CalculRubrique_ComplementDifferentiel35H",
       "CalculRubrique_Iat",
       "CalculRubrique_IndemniteKilometrique",
       "CalculRubrique_SujetionsSpeciales",
@@ -142,24 +129,11 @@ void MethodeCalculG_Nouv::CalculRubrique_IndemniteCoordination(VarCalculSalarie&
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SupplementFamilial"); }
 void MethodeCalculG_Nouv::CalculRubrique_CPA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CPA"); }
 void MethodeCalculG_Nouv::CalculRubrique_CFA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CFA"); }
-void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementaires(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HeuresComplementaires"); }
-void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HeuresComplementairesPrec"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Moins14"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_Moins14Prec"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Plus14"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_Plus14Prec"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_Nuit(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Nuit"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_NuitPrec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_NuitPrec"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_HS_NuitFeriePlus14"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_HS_NuitFeriePlus14Prec"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_Ferie(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_HS_Ferie"); }
-void MethodeCalculG_Nouv::CalculRubrique_HS_FeriePrec(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_HS_FeriePrec"); }
 void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_PrimeInformatique"); }
 void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_FondsSolidarite"); }
 void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_CreditMunicipal"); }
 void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_CnraclRetroactive"); }
 void MethodeCalculG_Nouv::CalculRubrique_Greve(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_Greve"); }
-void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ComplementDifferentiel35H"); }
 void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Iat"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteKilometrique"); }
 void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SujetionsSpeciales"); }

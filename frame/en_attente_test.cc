@@ -50,24 +50,11 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
-      "CalculRubrique_HeuresComplementaires",
-      "CalculRubrique_HeuresComplementairesPrec",
-      "CalculRubrique_HS_Moins14",
-      "CalculRubrique_HS_Moins14Prec",
-      "CalculRubrique_HS_Plus14",
-      "CalculRubrique_HS_Plus14Prec",
-      "CalculRubrique_HS_Nuit",
-      "CalculRubrique_HS_NuitPrec",
-      "CalculRubrique_HS_NuitFeriePlus14",
-      "CalculRubrique_HS_NuitFeriePlus14Prec",
-      "CalculRubrique_HS_Ferie",
-      "CalculRubrique_HS_FeriePrec",
       "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CreditMunicipal",
       "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
-      "CalculRubrique_ComplementDifferentiel35H",
       "CalculRubrique_Iat",
       "CalculRubrique_IndemniteKilometrique",
       "CalculRubrique_SujetionsSpeciales",
@@ -104,7 +91,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 74u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
