@@ -51,12 +51,9 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
-      "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
-      "CalculRubrique_CreditMunicipal",
       "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
-      "CalculRubrique_Iat",
       "CalculRubrique_IndemniteKilometrique",
       "CalculRubrique_SujetionsSpeciales",
       "CalculRubrique_Mgen",
@@ -71,13 +68,8 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
       "CalculRubrique_IndemniteFormation",
-      "CalculRubrique_MontantReference",
       "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
-      "CalculRubrique_Irf",
-      "CalculRubrique_Ipf",
-      "CalculRubrique_Ifse",
-      "CalculRubrique_Cia",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
@@ -129,12 +121,9 @@ void MethodeCalculG_Nouv::CalculRubrique_IndemniteCoordination(VarCalculSalarie&
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SupplementFamilial"); }
 void MethodeCalculG_Nouv::CalculRubrique_CPA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CPA"); }
 void MethodeCalculG_Nouv::CalculRubrique_CFA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CFA"); }
-void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_PrimeInformatique"); }
 void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_FondsSolidarite"); }
-void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_CreditMunicipal"); }
 void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_CnraclRetroactive"); }
 void MethodeCalculG_Nouv::CalculRubrique_Greve(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_Greve"); }
-void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Iat"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteKilometrique"); }
 void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SujetionsSpeciales"); }
 void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, bool /*bOption*/) { EnAttente("CalculRubrique_Mgen"); }
@@ -149,13 +138,8 @@ void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusMois(VarCalculS
 void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElusMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedentMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteFormation"); }
-void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_MontantReference"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReversementSFT(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ReversementSFT"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementJournalierSmic(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementJournalierSmic"); }
-void MethodeCalculG_Nouv::CalculRubrique_Irf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Irf"); }
-void MethodeCalculG_Nouv::CalculRubrique_Ipf(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ipf"); }
-void MethodeCalculG_Nouv::CalculRubrique_Ifse(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Ifse"); }
-void MethodeCalculG_Nouv::CalculRubrique_Cia(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_Cia"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusEcrete"); }
 void MethodeCalculG_Nouv::CalculRubrique_ExonerationZrr(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ExonerationZrr"); }
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaireHoraire"); }

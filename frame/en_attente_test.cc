@@ -50,12 +50,9 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
-      "CalculRubrique_PrimeInformatique",
       "CalculRubrique_FondsSolidarite",
-      "CalculRubrique_CreditMunicipal",
       "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
-      "CalculRubrique_Iat",
       "CalculRubrique_IndemniteKilometrique",
       "CalculRubrique_SujetionsSpeciales",
       "CalculRubrique_Mgen",
@@ -70,13 +67,8 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
       "CalculRubrique_IndemniteFormation",
-      "CalculRubrique_MontantReference",
       "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
-      "CalculRubrique_Irf",
-      "CalculRubrique_Ipf",
-      "CalculRubrique_Ifse",
-      "CalculRubrique_Cia",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
       "CalculRubrique_ExonerationZrr",
       "CalculRubrique_MaintienSalaireHoraire",
@@ -91,7 +83,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 74u);
+  EXPECT_EQ(NomsEnAttente().size(), 66u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
