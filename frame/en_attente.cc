@@ -32,7 +32,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "dMontantGIPA",
       "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
       "bDeclenchementComplementTauxCotisations",
-      "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_Imposition_a_la_source_Frontalier",
@@ -49,24 +48,17 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_IndemniteResidence",
       "CalculRubrique_IndemniteCoordination",
       "CalculRubrique_SupplementFamilial",
-      "CalculRubrique_CPA",
-      "CalculRubrique_CFA",
-      "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
-      "CalculRubrique_SujetionsSpeciales",
-      "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
       "CalculRubrique_ReductionHS",
       "CalculRubrique_RappelReductionHS",
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
-      "CalculRubrique_AllocationFormation",
       "CalculRubrique_ReductionFillon",
       "CalculRubrique_TraitementIndiciaireElusMois",
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
-      "CalculRubrique_IndemniteFormation",
       "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
@@ -101,7 +93,6 @@ void MethodeCalculG_Nouv::CalculRubrique_Gipa(VarCalculSalarie& /*InfosSalaries*
 std::optional<double> MethodeCalculG_Nouv::dMontantGIPA(VarCalculSalarie& /*InfosSalaries*/, double /*dIM_Debut*/, double /*dPoint_Debut*/, double /*dIM_Fin*/, double /*dPoint_Fin*/, double /*dTauxInflation*/, double /*dHrsHebdo*/, double /*dTauxTempsPartiel*/) { EnAttente("dMontantGIPA"); }
 void MethodeCalculG_Nouv::RechercheDonneesPourCalculExonerationAllocFamOuFillon(VarCalculSalarie& /*InfosSalaries*/, double& /*dMtFillonDejaCotise*/, bool /*bCalculFillon*/, bool /*bCalculMSA*/) { EnAttente("RechercheDonneesPourCalculExonerationAllocFamOuFillon"); }
 bool MethodeCalculG_Nouv::bDeclenchementComplementTauxCotisations(VarCalculSalarie& /*InfosSalaries*/, bool /*blnMsa*/) { EnAttente("bDeclenchementComplementTauxCotisations"); }
-void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Indemnite_transport_Corse"); }
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Retenue_a_la_source_NouvelleMethode"); }
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_Traitement_Indiciaire_Journalier"); }
 void MethodeCalculG_Nouv::CalculRubrique_Imposition_a_la_source_Frontalier(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVariablesSalaries*/) { EnAttente("CalculRubrique_Imposition_a_la_source_Frontalier"); }
@@ -118,24 +109,17 @@ void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementBonification(VarCalculSal
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteResidence(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteResidence"); }
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteCoordination(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_IndemniteCoordination"); }
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SupplementFamilial"); }
-void MethodeCalculG_Nouv::CalculRubrique_CPA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CPA"); }
-void MethodeCalculG_Nouv::CalculRubrique_CFA(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CFA"); }
-void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_FondsSolidarite"); }
 void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_CnraclRetroactive"); }
 void MethodeCalculG_Nouv::CalculRubrique_Greve(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/) { EnAttente("CalculRubrique_Greve"); }
-void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_SujetionsSpeciales"); }
-void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/, bool /*bOption*/) { EnAttente("CalculRubrique_Mgen"); }
 void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilialIC(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/) { EnAttente("CalculRubrique_SupplementFamilialIC"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/) { EnAttente("CalculRubrique_ReductionHS"); }
 void MethodeCalculG_Nouv::CalculRubrique_RappelReductionHS(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_RappelReductionHS"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedent"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementBaseParticulier"); }
-void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_AllocationFormation"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReductionFillon(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sNomcalcul*/) { EnAttente("CalculRubrique_ReductionFillon"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementForfaitaireElusMois"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusPrecedentMois"); }
-void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_IndemniteFormation"); }
 void MethodeCalculG_Nouv::CalculRubrique_ReversementSFT(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ReversementSFT"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementJournalierSmic(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_TraitementJournalierSmic"); }
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_TraitementIndiciaireElusEcrete"); }

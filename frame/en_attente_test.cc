@@ -31,7 +31,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "dMontantGIPA",
       "RechercheDonneesPourCalculExonerationAllocFamOuFillon",
       "bDeclenchementComplementTauxCotisations",
-      "CalculRubrique_Indemnite_transport_Corse",
       "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_Imposition_a_la_source_Frontalier",
@@ -48,24 +47,17 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_IndemniteResidence",
       "CalculRubrique_IndemniteCoordination",
       "CalculRubrique_SupplementFamilial",
-      "CalculRubrique_CPA",
-      "CalculRubrique_CFA",
-      "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CnraclRetroactive",
       "CalculRubrique_Greve",
-      "CalculRubrique_SujetionsSpeciales",
-      "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
       "CalculRubrique_ReductionHS",
       "CalculRubrique_RappelReductionHS",
       "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
-      "CalculRubrique_AllocationFormation",
       "CalculRubrique_ReductionFillon",
       "CalculRubrique_TraitementIndiciaireElusMois",
       "CalculRubrique_TraitementForfaitaireElusMois",
       "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
-      "CalculRubrique_IndemniteFormation",
       "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
@@ -82,7 +74,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 65u);
+  EXPECT_EQ(NomsEnAttente().size(), 57u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

@@ -5,6 +5,7 @@
 #include "generic/taux_regles.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/salaire_outils.h"
 
 namespace orvalis {
 
@@ -43,11 +44,7 @@ void HeuresComplementaires(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalari
   const double H = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
   const double dTaux =
       H == 0 ? 0 : TauxComplementaire(m, InfosSalaries, RsVariablesDuTaux, dReference, smic);
-  Rubrique.dBase = H;
-  Rubrique.dTauxSalarial = dTaux;
-  Rubrique.dMontantSalarial = dTaux * H;
-  Rubrique.dTauxPatronal = 0;
-  Rubrique.dMontantPatronal = 0;
+  salaire::EcritLigne(Rubrique, H, dTaux, dTaux * H);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/salaire_outils.h"
 
 namespace orvalis {
 
@@ -60,11 +61,7 @@ double TauxHS(double dReference, double C, double dDureeHebdoLegale) {
 }
 
 void EcritLigne(SalarieCalculRubrique& Rubrique, double dHeures, double dTaux) {
-  Rubrique.dBase = dHeures;
-  Rubrique.dTauxSalarial = dTaux;
-  Rubrique.dMontantSalarial = dTaux * dHeures;
-  Rubrique.dTauxPatronal = 0;
-  Rubrique.dMontantPatronal = 0;
+  salaire::EcritLigne(Rubrique, dHeures, dTaux, dTaux * dHeures);
 }
 
 void HeuresSuppDuMois(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,

@@ -7,18 +7,13 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/salaire_outils.h"
 
 namespace orvalis {
 
 namespace {
 
-void EcritLigne(SalarieCalculRubrique& Rubrique, double dBase, double dTaux, double dMontant) {
-  Rubrique.dBase = dBase;
-  Rubrique.dTauxSalarial = dTaux;
-  Rubrique.dMontantSalarial = dMontant;
-  Rubrique.dTauxPatronal = 0;
-  Rubrique.dMontantPatronal = 0;
-}
+using salaire::EcritLigne;
 
 // An amount A paid K times.
 void MontantFoisCoefficient(SalarieCalculRubrique& Rubrique, double A, double K) {
