@@ -66,6 +66,13 @@ TEST_F(Formation, IndemniteDUnMoisEntier) {
   Ligne(30, 0, 3199.81);  // 30 + 16 days held to the month's 30
 }
 
+TEST_F(Formation, IndemniteDeFevrierJusquAuDernierJour) {
+  m.gPeriodeEncours = "01/02/2024";
+  s.rsSituationsExceptionnelles = Situations({{"C", "15/02/2024", "29/02/2024"}});
+  ASSERT_TRUE(Calcul("INDEMNITE DE FORMATION"));
+  Ligne(16, 0, 1706.57);  // the 15th to the end of February, day 30: 16 days; 3199.81 x 16 / 30
+}
+
 TEST_F(Formation, IndemniteSansJourDeFormation) {
   s.rsSituationsExceptionnelles = Situations({{"C", "01/02/2024", "29/02/2024"}});
   ASSERT_TRUE(Calcul("INDEMNITE DE FORMATION"));
