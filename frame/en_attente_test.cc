@@ -66,7 +66,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_FondsSolidarite",
       "CalculRubrique_CreditMunicipal",
       "CalculRubrique_CnraclRetroactive",
-      "CalculRubrique_Greve",
       "CalculRubrique_ComplementDifferentiel35H",
       "CalculRubrique_Iat",
       "CalculRubrique_IndemniteKilometrique",
@@ -104,7 +103,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 87u);
+  EXPECT_EQ(NomsEnAttente().size(), 86u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
