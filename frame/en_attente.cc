@@ -96,7 +96,6 @@ const std::vector<std::string>& NomsEnAttente() {
       "CalculRubrique_MaintienSalaire",
       "CalculRubrique_CongesPayes",
       "CalculRubrique_TptNonSubroge",
-      "CalculRubrique_Carence",
       "CalculRubrique_CompensationHausseCsg",
       "CalculRubrique_RetenueCongesPayes",
       "CalculRubrique_ArbitrageCongesPayes",
@@ -186,7 +185,6 @@ void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaireHoraire(VarCalculSalarie
 void MethodeCalculG_Nouv::CalculRubrique_MaintienSalaire(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16 /*iPourcentage*/) { EnAttente("CalculRubrique_MaintienSalaire"); }
 void MethodeCalculG_Nouv::CalculRubrique_CongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CongesPayes"); }
 void MethodeCalculG_Nouv::CalculRubrique_TptNonSubroge(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, Int16& /*iTauxTptNonSubroge*/) { EnAttente("CalculRubrique_TptNonSubroge"); }
-void MethodeCalculG_Nouv::CalculRubrique_Carence(VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& /*Rubrique*/, const std::string& /*sVariante*/, const RsRef& /*RsSalariesHisto*/) { EnAttente("CalculRubrique_Carence"); }
 void MethodeCalculG_Nouv::CalculRubrique_CompensationHausseCsg(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_CompensationHausseCsg"); }
 void MethodeCalculG_Nouv::CalculRubrique_RetenueCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_RetenueCongesPayes"); }
 void MethodeCalculG_Nouv::CalculRubrique_ArbitrageCongesPayes(VarCalculSalarie& /*InfosSalaries*/, const RsRef& /*RsVarSalaries*/, const RsRef& /*RsSalariesHisto*/, const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& /*Rubrique*/) { EnAttente("CalculRubrique_ArbitrageCongesPayes"); }

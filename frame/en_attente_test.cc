@@ -95,7 +95,6 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_MaintienSalaire",
       "CalculRubrique_CongesPayes",
       "CalculRubrique_TptNonSubroge",
-      "CalculRubrique_Carence",
       "CalculRubrique_CompensationHausseCsg",
       "CalculRubrique_RetenueCongesPayes",
       "CalculRubrique_ArbitrageCongesPayes",
@@ -103,7 +102,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 86u);
+  EXPECT_EQ(NomsEnAttente().size(), 85u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
