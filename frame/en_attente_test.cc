@@ -91,10 +91,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_Cia",
       "CalculRubrique_TraitementIndiciaireElusEcrete",
       "CalculRubrique_ExonerationZrr",
-      "CalculRubrique_MaintienSalaireHoraire",
-      "CalculRubrique_MaintienSalaire",
       "CalculRubrique_CongesPayes",
-      "CalculRubrique_TptNonSubroge",
       "CalculRubrique_CompensationHausseCsg",
       "CalculRubrique_RetenueCongesPayes",
       "CalculRubrique_ArbitrageCongesPayes",
@@ -102,7 +99,7 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_ReductionCsgChomage",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 85u);
+  EXPECT_EQ(NomsEnAttente().size(), 82u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
