@@ -28,17 +28,12 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_BonificationIndiciaire",
       "CalculRubrique_DemiTraitementBonification",
       "CalculRubrique_IndemniteCoordination",
-      "CalculRubrique_Greve",
       "CalculRubrique_SupplementFamilialIC",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_TraitementJournalierSmic",
-      "CalculRubrique_MaintienSalaireHoraire",
-      "CalculRubrique_MaintienSalaire",
-      "CalculRubrique_TptNonSubroge",
-      "CalculRubrique_Carence",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 21u);
+  EXPECT_EQ(NomsEnAttente().size(), 16u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

@@ -167,6 +167,14 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculNombreJourMaintienTraitement", &N::CalculNombreJourMaintienTraitement),
       Op("CalculNombreJourTptNonSubroge", &N::CalculNombreJourTptNonSubroge),
 
+      // ---- Strike, waiting-day and maintained-pay lines reached by name ----------------------
+      Op("CalculRubrique_Greve", &N::CalculRubrique_Greve),
+      Op("CalculRubrique_Carence", &N::CalculRubrique_Carence),
+      Op("CalculRubrique_MaintienSalaire", &N::CalculRubrique_MaintienSalaire),
+      Op("CalculRubrique_MaintienSalaireHoraire", &N::CalculRubrique_MaintienSalaireHoraire),
+      Op("dMaintienSalaireCoefficient", &N::dMaintienSalaireCoefficient),
+      Op("CalculRubrique_TptNonSubroge", &N::CalculRubrique_TptNonSubroge),
+
       // ---- Generic pay lines reached by name -------------------------------------------------
       Op("CalculRubrique_MontantFixe", &N::CalculRubrique_MontantFixe),
       Op("CalculRubrique_MontantFixeAnnuel", &N::CalculRubrique_MontantFixeAnnuel),

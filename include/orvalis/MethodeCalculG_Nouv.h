@@ -431,6 +431,11 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                     SalarieCalculRubrique& Rubrique, Int16& iTauxTptNonSubroge);
   void CalculRubrique_Carence(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                               const std::string& sVariante, const RsRef& RsSalariesHisto);
+  // The four day counts of a maintained-pay line: the 90 % days for "MAINTIEN90", the
+  // two-thirds days for "MAINTIEN66", none for any other code.
+  void dMaintienSalaireCoefficient(VarCalculSalarie& InfosSalaries, Int16& iJoursIATA,
+                                   Int16& iJoursIATN, Int16& iJoursINTA, Int16& iJoursINTN,
+                                   const std::string& sCodeRubrique);
   void CalculRubrique_RetenueCongesPayes(VarCalculSalarie& InfosSalaries,
                                          const RsRef& RsVarSalaries, const RsRef& RsSalariesHisto,
                                          const RsRef& RsVarSalariesHisto,
