@@ -78,14 +78,8 @@ void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementBonification(
                     (s.dCoefficient_INTA + s.dCoefficient_IATA) * s.dCoefficient_TraitementTA) *
                    B;
   Rubrique.dTauxSalarial = N.Total();
-  if (C == 0.5) {
-    Rubrique.dMontantSalarial = M1;
-    s.dMontantAllocationComplementaireMaladieNBI = 0;
-  } else {
-    Rubrique.dMontantSalarial = M2;
-    s.dMontantAllocationComplementaireMaladieNBI = M1 - M2;
-  }
-  salaire::SansPartPatronale(Rubrique);
+  salaire::PaieLaMoitie(Rubrique, C, M1, M2, s.dMontantAllocationComplementaireMaladieNBI,
+                        s.dMontantAllocationComplementaireMaladieNBI);
 }
 
 }  // namespace orvalis

@@ -102,19 +102,11 @@ void MethodeCalculG_Nouv::CalculRubrique_DemiTraitementIndiciaire(VarCalculSalar
   Rubrique.dBase = s.dSalaire_MensuelReelIATA + s.dSalaire_MensuelReelIATN +
                    s.dSalaire_MensuelReelINTA + s.dSalaire_MensuelReelINTN;
   Rubrique.dTauxSalarial = N.Total();
-  // The line pays the half; what the coefficient gives above it waits for the allocation.
-  if (C == 0.5) {
-    Rubrique.dMontantSalarial = M1;
-    s.dMontantAllocationComplementaireMaladie = 0;
-  } else {
-    Rubrique.dMontantSalarial = M2;
-    if (EstCodeDisponibilite(Rubrique.sCodeRubrique)) {
-      s.dMontantAllocationComplementaireDispo = M1 - M2;
-    } else {
-      s.dMontantAllocationComplementaireMaladie = M1 - M2;
-    }
-  }
-  salaire::SansPartPatronale(Rubrique);
+  // The difference above a half is kept for the allocation line, apart for availability.
+  salaire::PaieLaMoitie(Rubrique, C, M1, M2, s.dMontantAllocationComplementaireMaladie,
+                        EstCodeDisponibilite(Rubrique.sCodeRubrique)
+                            ? s.dMontantAllocationComplementaireDispo
+                            : s.dMontantAllocationComplementaireMaladie);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_AllocationComplementaireMaladie(

@@ -46,6 +46,20 @@ inline void LigneAllocation(const VarCalculSalarie& s, SalarieCalculRubrique& Ru
   SansPartPatronale(Rubrique);
 }
 
+// A half-pay line pays the whole coefficient when it is a half, otherwise the half alone and
+// keeps the rest for its allocation line.
+inline void PaieLaMoitie(SalarieCalculRubrique& Rubrique, double C, double M1, double M2,
+                         double& dAllocationSiMoitie, double& dAllocation) {
+  if (C == 0.5) {
+    Rubrique.dMontantSalarial = M1;
+    dAllocationSiMoitie = 0;
+  } else {
+    Rubrique.dMontantSalarial = M2;
+    dAllocation = M1 - M2;
+  }
+  SansPartPatronale(Rubrique);
+}
+
 }  // namespace orvalis::salaire
 
 #endif  // ORVALIS_SALARY_DEMI_TRAITEMENT_OUTILS_H_

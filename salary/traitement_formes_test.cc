@@ -10,13 +10,6 @@ namespace {
 
 class TraitementFormesTest : public PaieJuillet {
  protected:
-  void ConstanteId(int id, const Value& v, const char* type) {
-    m.gRsConstantes->AddNew();
-    m.gRsConstantes->SetField("CodeConstante", "C" + std::to_string(id));
-    m.gRsConstantes->SetField("IdConstante", id);
-    m.gRsConstantes->SetField("Valeur", v);
-    m.gRsConstantes->SetField("TauxMontant", type);
-  }
   void Horaire(const std::string& sModele) {
     s.sTypeModele = sModele;
     s.dHeuresMois = 151.67;
@@ -147,7 +140,7 @@ TEST_F(HebdoMultipleTest, OtherCodeReadsSchedule0AndAnAbsentColumnIsAFault) {
 }
 
 TEST_F(TraitementFormesTest, DailyTreatmentOnTheIndex) {
-  ConstanteId(7, 1.5, "M");
+  Constante("C7", 1.5, 7, "M");
   s.dIndiceMajoreM = 400;
   Prepare();
   r = SalarieCalculRubrique();
@@ -161,9 +154,9 @@ TEST_F(TraitementFormesTest, DailyTreatmentOnTheIndex) {
 }
 
 TEST_F(TraitementFormesTest, DailyTreatmentOnTheSmic) {
-  ConstanteId(8, 12, "M");   // 12 days
-  ConstanteId(9, 50, "T");   // 50 % of the hourly SMIC
-  ConstanteId(10, 0.5, "M");
+  Constante("C8", 12, 8, "M");   // 12 days
+  Constante("C9", 50, 9, "T");   // 50 % of the hourly SMIC
+  Constante("C10", 0.5, 10, "M");
   r = SalarieCalculRubrique();
   r.sValeurBase = "CONSTANTE";
   r.lIdValeurBase = 8;

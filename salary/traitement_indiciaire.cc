@@ -39,11 +39,25 @@ void SalaireDuQuart(const Quart& q, double dAbsenceNS) {
   }
 }
 
-void LigneDuTraitement(SalarieCalculRubrique& Rubrique, double M, double dIndice,
-                       double dMontant) {
+// The month of one index on its two quadrants, each with its treatment coefficient, in the
+// order they are paid; the line gives the index, its full month and the two salaries paid.
+struct QuartTraite {
+  Quart q;
+  double dCoefficientTraitement;
+};
+void TraitementDeLIndice(MethodeCalculG_Nouv& m, double dIndiceStocke, double& dAnnuelPlein,
+                         QuartTraite premier, QuartTraite second, double dAbsenceNS,
+                         SalarieCalculRubrique& Rubrique) {
+  const double dIndice = IndiceDuMois(m, dIndiceStocke);
+  const double M = salaire::MensuelPlein(m, dIndice, dAnnuelPlein);
+  for (const QuartTraite& t : {premier, second}) t.q.dPlein = t.q.dCoefficient * M;
+  for (const QuartTraite& t : {premier, second}) t.q.dReel = t.dCoefficientTraitement * t.q.dPlein;
+  SalaireDuQuart(premier.q, dAbsenceNS);
+  SalaireDuQuart(second.q, dAbsenceNS);
+
   Rubrique.dBase = M;
   Rubrique.dTauxSalarial = dIndice;
-  Rubrique.dMontantSalarial = dMontant;
+  Rubrique.dMontantSalarial = second.q.dMensuel + premier.q.dMensuel;
   salaire::SansPartPatronale(Rubrique);
 }
 
@@ -52,38 +66,19 @@ void LigneDuTraitement(SalarieCalculRubrique& Rubrique, double M, double dIndice
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& InfosSalaries,
                                                                   SalarieCalculRubrique& Rubrique) {
   VarCalculSalarie& s = InfosSalaries;
-  const double dIndice = IndiceDuMois(*this, s.dIndiceMajoreM);
-  const double M = salaire::MensuelPlein(*this, dIndice, s.dSalarie_AnnuelPlein);
-
-  const Quart intn = salaire::INTN(s);
-  const Quart inta = salaire::INTA(s);
-  intn.dPlein = intn.dCoefficient * M;
-  inta.dPlein = inta.dCoefficient * M;
-  intn.dReel = s.dCoefficient_TraitementTN * intn.dPlein;
-  inta.dReel = s.dCoefficient_TraitementTA * inta.dPlein;
-  SalaireDuQuart(intn, s.dNBJ_AutreAbsenceNS);
-  SalaireDuQuart(inta, s.dNBJ_AutreAbsenceNS);
-
-  LigneDuTraitement(Rubrique, M, dIndice, inta.dMensuel + intn.dMensuel);
+  TraitementDeLIndice(*this, s.dIndiceMajoreM, s.dSalarie_AnnuelPlein,
+                      {salaire::INTN(s), s.dCoefficient_TraitementTN},
+                      {salaire::INTA(s), s.dCoefficient_TraitementTA}, s.dNBJ_AutreAbsenceNS,
+                      Rubrique);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireMoisPrecedent(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
   VarCalculSalarie& s = InfosSalaries;
-  const double dIndice = IndiceDuMois(*this, s.dIndiceMajoreA);
-  const double M = salaire::MensuelPlein(*this, dIndice, s.dSalarie_AnnuelPleinA);
-
-  const Quart iata = salaire::IATA(s);
-  const Quart iatn = salaire::IATN(s);
-  iata.dPlein = iata.dCoefficient * M;
-  iatn.dPlein = iatn.dCoefficient * M;
-  iata.dReel = s.dCoefficient_TraitementTA * iata.dPlein;
-  iatn.dReel = s.dCoefficient_TraitementTN * iatn.dPlein;
   // The unpaid other absences fall on the new index alone.
-  SalaireDuQuart(iata, 0);
-  SalaireDuQuart(iatn, 0);
-
-  LigneDuTraitement(Rubrique, M, dIndice, iatn.dMensuel + iata.dMensuel);
+  TraitementDeLIndice(*this, s.dIndiceMajoreA, s.dSalarie_AnnuelPleinA,
+                      {salaire::IATA(s), s.dCoefficient_TraitementTA},
+                      {salaire::IATN(s), s.dCoefficient_TraitementTN}, 0, Rubrique);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_TraitementBaseParticulier(

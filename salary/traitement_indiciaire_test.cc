@@ -218,11 +218,7 @@ TEST_F(TraitementIndiciaireTest, SixteenBitOverflowOfTheDaysOffIsAFault) {
 
 TEST_F(TraitementIndiciaireTest, ParticularBase) {
   // Base "INDICE MAJORE" 366 times the rate 4.92278 of constant 7.
-  m.gRsConstantes->AddNew();
-  m.gRsConstantes->SetField("CodeConstante", "PTMENS");
-  m.gRsConstantes->SetField("IdConstante", 7);
-  m.gRsConstantes->SetField("Valeur", 4.92278);
-  m.gRsConstantes->SetField("TauxMontant", "M");
+  Constante("PTMENS", 4.92278, 7);
   Prepare({{"DT", "01/07/2023", "10/07/2023"}}, {"NBRE_JOUR_DEMI_TRAITEMENT"});
   s.dNBJ_AutreAbsenceNS = 5;  // not read by this line
   s.iNBJ_CongeMaterniteTempsCompletINTN = 4;  // nor this

@@ -41,12 +41,8 @@ class PaieJuillet : public ::testing::Test {
 
   void Fixe(const std::string& champ, const Value& v) { m.gRsConstantesFixes->SetField(champ, v); }
 
-  void Constante(const std::string& code, const Value& v) {
-    m.gRsConstantes->AddNew();
-    m.gRsConstantes->SetField("CodeConstante", code);
-    m.gRsConstantes->SetField("IdConstante", 0);
-    m.gRsConstantes->SetField("Valeur", v);
-    m.gRsConstantes->SetField("TauxMontant", "M");
+  void Constante(const std::string& code, const Value& v, int id = 0, const char* type = "M") {
+    paie_test::AjouteConstante(m.gRsConstantes, code, v, id, type);
   }
 
   void Cumul(const std::string& code, double sal) {
