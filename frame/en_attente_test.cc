@@ -15,25 +15,10 @@ namespace {
 
 TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
-      "CalculCoefficientDemiTraitement",
-      "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
-      "dMontantProratiseSuivantDemiTraitement",
-      "CalculRubrique_Traitement_Indiciaire_Journalier",
-      "CalculRubrique_TraitementHoraireMois",
-      "CalculRubrique_TraitementIndiciaireMois",
-      "CalculRubrique_TraitementIndiciaireMoisPrecedent",
-      "CalculRubrique_DemiTraitementIndiciaire",
-      "CalculRubrique_AllocationComplementaireMaladie",
-      "CalculRubrique_AllocationComplementaireMaladieNbi",
-      "CalculRubrique_BonificationIndiciaire",
-      "CalculRubrique_DemiTraitementBonification",
       "CalculRubrique_IndemniteCoordination",
-      "CalculRubrique_SupplementFamilialIC",
-      "CalculRubrique_TraitementBaseParticulier",
-      "CalculRubrique_TraitementJournalierSmic",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 16u);
+  EXPECT_EQ(NomsEnAttente().size(), 1u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

@@ -85,6 +85,7 @@ const std::vector<Operation>& TableDesAppels() {
       Op("MajDateEnFormatChaine", &MajDateEnFormatChaine, kNouv),
       Op("MajChaineEnFormatDate", &MajChaineEnFormatDate),
       Op("dMontantProratiseSuivantDemiTraitement", &N::dMontantProratiseSuivantDemiTraitement),
+      Op("dCoefficientIndemnitaireDemiTraitement", &N::dCoefficientIndemnitaireDemiTraitement),
       Op("CalculRubrique_Gipa", &N::CalculRubrique_Gipa),
       Op("dMontantGIPA", &N::dMontantGIPA),
       Op("CalculRubrique_BaseTauxChoix", &N::CalculRubrique_BaseTauxChoix),

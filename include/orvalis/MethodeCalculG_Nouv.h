@@ -398,6 +398,15 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                              double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
                              double& dMontant);
 
+  // ---- Half pay (salary/) ------------------------------------------------------------------
+  // The half-pay days of the line into the four quadrant counts (IATA, IATN, INTA, INTN):
+  // the availability days for the codes "INDCOSFT", "INDCOBONIF", "INDCOTRAIT", "INDCOIR",
+  // otherwise the half-pay days; the half-pay coefficient is set first, but for "INDCOSFT".
+  void dCoefficientIndemnitaireDemiTraitement(VarCalculSalarie& InfosSalaries, Int16& iNbj_IATA,
+                                              Int16& iNbj_IATN, Int16& iNbj_INTA,
+                                              Int16& iNbj_INTN, const std::string& sType,
+                                              const std::string& sCodeRubrique);
+
   // ---- Absences and replacement income (absences/) ---------------------------------------
   void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
                                               SalarieCalculRubrique& Rubrique,
