@@ -31,6 +31,8 @@ bool EgalSansCasse(std::string_view a, std::string_view b) {
 
 class Lecteur {
  public:
+  static constexpr int kProfondeurMax = 64;
+
   explicit Lecteur(std::string_view s) : s_(s) {}
 
   Noeud Lire() {
@@ -88,8 +90,14 @@ class Lecteur {
   Noeud LirePrimaire() {
     SauteBlancs();
     if (i_ < s_.size() && s_[i_] == '(') {
+      // A criterion is read by recursion, one level a parenthesis: a bound keeps any text,
+      // however many parentheses it opens, a fault and never an overflow of the stack.
+      if (++profondeur_ > kProfondeurMax)
+        Faute("filter criterion nested deeper than " + std::to_string(kProfondeurMax) +
+              " parentheses");
       ++i_;
       Noeud n = LireOu();
+      --profondeur_;
       SauteBlancs();
       if (i_ >= s_.size() || s_[i_] != ')') Illisible();
       ++i_;
@@ -152,6 +160,7 @@ class Lecteur {
 
   std::string_view s_;
   std::size_t i_ = 0;
+  int profondeur_ = 0;
 };
 
 }  // namespace

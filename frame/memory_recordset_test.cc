@@ -338,6 +338,20 @@ TEST_F(MemoryRecordsetCriteres, UnreadableCriterionIsAFault) {
   EXPECT_EQ(TexteFaute([&] { rs->Filter("Code = "); }), "unreadable filter criterion: Code = ");
 }
 
+TEST_F(MemoryRecordsetCriteres, SixtyFourParenthesesAreReadAndOneMoreIsAFault) {
+  auto imbrique = [](int n) {
+    return std::string(static_cast<std::size_t>(n), '(') + "Code = 'A'" +
+           std::string(static_cast<std::size_t>(n), ')');
+  };
+  EXPECT_EQ(Codes(imbrique(64)), (V{"A"}));
+  EXPECT_EQ(TexteFaute([&] { rs->Filter(imbrique(65)); }),
+            "filter criterion nested deeper than 64 parentheses");
+  // A code holding a quote and a run of parentheses, as a lookup builds it.
+  const std::string code = "x' or " + std::string(100000, '(');
+  EXPECT_EQ(TexteFaute([&] { rs->Filter("Code = '" + code + "'"); }),
+            "filter criterion nested deeper than 64 parentheses");
+}
+
 TEST_F(MemoryRecordsetCriteres, UnknownColumnIsAFaultEvenInAnOrBranch) {
   EXPECT_EQ(TexteFaute([&] { rs->Filter("Valeur = 1"); }), "filter on a missing column: Valeur");
   EXPECT_THROW(rs->Filter("Code = 'A' Or Valeur = 1"), Fault);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 #include <string_view>
+#include <unordered_map>
 
 #include "tools/json_writer.h"
 
@@ -62,15 +63,6 @@ double LitNombreFini(const Json& j, const std::string& lieu, const char* attendu
   return d;
 }
 
-bool EgalSansCasse(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    auto bas = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
-    if (bas(a[i]) != bas(b[i])) return false;
-  }
-  return true;
-}
-
 Value LitCellule(const Json& j, const std::string& lieu) {
   switch (j.type()) {
     case Json::value_t::null: return Value::Null();
@@ -84,43 +76,63 @@ Value LitCellule(const Json& j, const std::string& lieu) {
   }
 }
 
-// Adds a column name, refusing an empty name and a name already there in any case.
-void AjouteColonne(std::vector<std::string>& colonnes, const std::string& nom,
-                   const std::string& lieu) {
-  if (nom.empty()) throw ErreurCas(lieu, "a column needs a name");
-  for (const auto& c : colonnes)
-    if (EgalSansCasse(c, nom))
-      throw ErreurCas(lieu, "column '" + nom + "' repeats column '" + c +
-                                "' (column names are matched whatever the case)");
-  colonnes.push_back(nom);
+std::string Minuscules(std::string s) {
+  for (char& c : s)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return s;
 }
 
-std::size_t PlaceColonne(const std::vector<std::string>& colonnes, const std::string& nom) {
-  for (std::size_t i = 0; i < colonnes.size(); ++i)
-    if (colonnes[i] == nom) return i;
-  return colonnes.size();
-}
+// The columns of a table being read, found by name in constant time: a row of thousands of
+// keys costs as many look-ups, not a scan of every column for each.
+class Colonnes {
+ public:
+  const std::vector<std::string>& Noms() const { return noms_; }
+  std::size_t Taille() const { return noms_.size(); }
+
+  // Adds a column name, refusing an empty name and a name already there in any case.
+  void Ajoute(const std::string& nom, const std::string& lieu) {
+    if (nom.empty()) throw ErreurCas(lieu, "a column needs a name");
+    const auto [it, nouveau] = parMinuscules_.emplace(Minuscules(nom), noms_.size());
+    if (!nouveau)
+      throw ErreurCas(lieu, "column '" + nom + "' repeats column '" + noms_[it->second] +
+                                "' (column names are matched whatever the case)");
+    parNom_.emplace(nom, noms_.size());
+    noms_.push_back(nom);
+  }
+
+  // The place of a column by its exact spelling; Taille() when there is none.
+  std::size_t Place(const std::string& nom) const {
+    const auto it = parNom_.find(nom);
+    return it == parNom_.end() ? noms_.size() : it->second;
+  }
+
+ private:
+  std::vector<std::string> noms_;
+  std::unordered_map<std::string, std::size_t> parNom_;
+  std::unordered_map<std::string, std::size_t> parMinuscules_;
+};
 
 using Lignes = std::vector<std::vector<Value>>;
 
 // Row objects keyed by column; a missing key is null.
-void LitLigneObjet(const Json& ligne, const std::string& lieu, std::vector<std::string>& colonnes,
+void LitLigneObjet(const Json& ligne, const std::string& lieu, Colonnes& colonnes,
                    bool colonnesOuvertes, Lignes& lignes) {
-  std::vector<Value> cellules(colonnes.size());
+  std::vector<Value> cellules(colonnes.Taille());
   for (const auto& [nom, valeur] : ligne.items()) {
     const std::string ici = Sous(lieu, nom);
-    std::size_t k = PlaceColonne(colonnes, nom);
-    if (k == colonnes.size()) {
+    std::size_t k = colonnes.Place(nom);
+    if (k == colonnes.Taille()) {
       if (!colonnesOuvertes) throw ErreurCas(ici, "'" + nom + "' is not a column of the table");
-      AjouteColonne(colonnes, nom, ici);
-      cellules.resize(colonnes.size());
+      colonnes.Ajoute(nom, ici);
+      cellules.resize(colonnes.Taille());
     }
     cellules[k] = LitCellule(valeur, ici);
   }
   lignes.push_back(std::move(cellules));
 }
 
-RsRef Construit(const std::vector<std::string>& colonnes, Lignes& lignes, const std::string& lieu) {
+RsRef Construit(const Colonnes& table, Lignes& lignes, const std::string& lieu) {
+  const std::vector<std::string>& colonnes = table.Noms();
   try {
     RsRef rs = NouveauRecordset(colonnes);
     for (auto& ligne : lignes) {
@@ -163,7 +175,7 @@ bool LitBooleen(const Json& j, const std::string& lieu) {
 
 RsRef LitTable(const Json& j, const std::string& lieu) {
   if (j.is_null()) return nullptr;
-  std::vector<std::string> colonnes;
+  Colonnes colonnes;
   Lignes lignes;
   if (j.is_array()) {
     for (std::size_t i = 0; i < j.size(); ++i) {
@@ -189,7 +201,7 @@ RsRef LitTable(const Json& j, const std::string& lieu) {
   if (!cols.is_array()) throw ErreurCas(lieuCols, "expected an array of column names, got " + Decrit(cols));
   for (std::size_t k = 0; k < cols.size(); ++k) {
     const std::string ici = Indice(lieuCols, k);
-    AjouteColonne(colonnes, LitTexte(cols[k], ici), ici);
+    colonnes.Ajoute(LitTexte(cols[k], ici), ici);
   }
   const Json& rows = j["rows"];
   const std::string lieuRows = Sous(lieu, "rows");
@@ -200,9 +212,9 @@ RsRef LitTable(const Json& j, const std::string& lieu) {
     if (ligne.is_object()) {
       LitLigneObjet(ligne, ici, colonnes, false, lignes);
     } else if (ligne.is_array()) {
-      if (ligne.size() != colonnes.size())
+      if (ligne.size() != colonnes.Taille())
         throw ErreurCas(ici, std::to_string(ligne.size()) + " values for " +
-                                 std::to_string(colonnes.size()) + " columns");
+                                 std::to_string(colonnes.Taille()) + " columns");
       std::vector<Value> cellules;
       for (std::size_t k = 0; k < ligne.size(); ++k)
         cellules.push_back(LitCellule(ligne[k], Indice(ici, k)));

@@ -119,6 +119,26 @@ TEST(CaseJsonTest, ColumnsAndRowsFormTakesArraysObjectsAndNoRows) {
   EXPECT_EQ(LitTable(Json(nullptr), "t"), nullptr);
 }
 
+TEST(CaseJsonTest, ARowOfManyKeysIsReadWithEveryColumnInOrder) {
+  Json ligne = Json::object();
+  for (int k = 0; k < 2000; ++k) ligne["C" + std::to_string(k)] = k;
+  RsRef rs = LitTable(Json::array({ligne, Json::object({{"C1999", -1}})}), "t");
+  ASSERT_EQ(rs->Columns().size(), 2000u);
+  EXPECT_EQ(rs->Rows()[0][1999].Double(), 1999);
+  EXPECT_EQ(rs->Rows()[1][1999].Double(), -1);
+  EXPECT_TRUE(rs->Rows()[1][0].EstNull());
+}
+
+TEST(CaseJsonTest, AColumnRepeatedInAnotherCaseNamesBothSpellings) {
+  try {
+    LitTable(Json::parse(R"({"columns": ["Code", "Valeur", "CODE"], "rows": []})"), "t");
+    FAIL() << "no error";
+  } catch (const ErreurCas& e) {
+    EXPECT_NE(std::string(e.what()).find("column 'CODE' repeats column 'Code'"), std::string::npos)
+        << e.what();
+  }
+}
+
 TEST(CaseJsonTest, TablesOfTheWrongShapeAreErrors) {
   EXPECT_EQ(Erreur([] { LitTable(Json::parse(R"({"columns": ["a", "b"], "rows": [[1]]})"), "t"); }),
             "t.rows[0]: 1 values for 2 columns");

@@ -144,6 +144,9 @@ Etape LitEtape(const Json& etape, const std::string& lieu, TypeMoteur m, bool& c
 // for the error, so that a deeply nested text costs no more than its depth.
 class GardeDoublons {
  public:
+  static constexpr std::size_t kProfondeurMax = 256;
+  static constexpr std::size_t kClesMax = 1024;
+
   GardeDoublons() : pile_(std::make_shared<std::vector<Cadre>>()) {}
 
   // The place of the value being read when the text stopped (a number too large).
@@ -158,12 +161,20 @@ class GardeDoublons {
     switch (evenement) {
       case E::object_start:
       case E::array_start:
+        if (pile_->size() >= kProfondeurMax)
+          throw ErreurCas(LieuCourant(), "nested deeper than " + std::to_string(kProfondeurMax) +
+                                      " arrays and objects");
         pile_->push_back({evenement == E::object_start, {}, {}, 0});
         break;
       case E::key: {
         auto& c = pile_->back();
         std::string cle = lu.get<std::string>();
         if (!c.cles.insert(cle).second) throw ErreurCas(Sous(Lieu(), cle), "key given twice");
+        // The parser files each key of an object after a scan of the others: a bound on
+        // their number keeps the reading of any text short.
+        if (c.cles.size() > kClesMax)
+          throw ErreurCas(Sous(Lieu(), cle), "more than " + std::to_string(kClesMax) +
+                                                 " keys in one object");
         c.cle = std::move(cle);
         break;
       }

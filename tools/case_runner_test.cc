@@ -55,6 +55,37 @@ TEST(CaseRunnerTest, AnErrorPrintsOneLineAndNothingOnTheOutput) {
   EXPECT_EQ(i.erreurs, "steps[1].rubrique.dBasee: SalarieCalculRubrique has no field 'dBasee'\n");
 }
 
+// A row of n keys C0..C(n-1) in gRsConstantes.
+std::string CasAvecLigneDe(int n) {
+  std::string ligne;
+  for (int k = 0; k < n; ++k) ligne += (k ? ", \"C" : "\"C") + std::to_string(k) + "\": " + std::to_string(k);
+  return R"({"sources": {"gRsConstantes": [{)" + ligne + "}]}}";
+}
+
+TEST(CaseRunnerTest, AnObjectOf1024KeysIsReadAndOneMoreIsAnError) {
+  EXPECT_EQ(Lance(CasAvecLigneDe(1024)).statut, 0);
+  const Issue i = Lance(CasAvecLigneDe(1025));
+  EXPECT_EQ(i.statut, 2);
+  EXPECT_EQ(i.sortie, "");
+  EXPECT_EQ(i.erreurs, "sources.gRsConstantes[0].C1024: more than 1024 keys in one object\n");
+}
+
+TEST(CaseRunnerTest, Nesting256DeepIsReadAnd257IsAnError) {
+  auto imbrique = [](int n) {
+    return R"({"steps": [{"call": "Arrondi", "args": )" + std::string(n, '[') + "1" +
+           std::string(n, ']') + "}]}";
+  };
+  // The case object, "steps" and the step are three levels: 253 brackets reach 256.
+  const Issue dedans = Lance(imbrique(253));
+  EXPECT_EQ(dedans.statut, 2);
+  EXPECT_NE(dedans.erreurs.find("Arrondi(double, 16-bit integer) takes 2 arguments"),
+            std::string::npos) << dedans.erreurs;
+  const Issue dehors = Lance(imbrique(254));
+  EXPECT_EQ(dehors.statut, 2);
+  EXPECT_NE(dehors.erreurs.find(": nested deeper than 256 arrays and objects"), std::string::npos)
+      << dehors.erreurs.substr(0, 200);
+}
+
 TEST(CaseRunnerTest, TextErrorsNameTheInput) {
   EXPECT_EQ(Lance(" \n").erreurs, "case.json: empty input\n");
   EXPECT_EQ(Lance("{").erreurs.rfind("case.json: not JSON: parse error at line 1", 0), 0u);
