@@ -50,6 +50,23 @@ class CumulsSalarie {
   std::unordered_map<std::string, std::pair<double, double>> valeurs_;
 };
 
+// The record's own tables that the store does not hold yet: empty, so that a handler walking
+// them finds no row rather than no table.
+void TablesVides(VarCalculSalarie& v) {
+  v.rsIndemnitesJournalieres =
+      NouveauRecordset({"TypeIJ", "DateDebut", "DateFin", "IJPercu", "IJSubroge", "IJPAS"});
+  v.rsAutresIndemnites = NouveauRecordset(
+      {"Salaire", "Designation", "DateDebut", "DateFin", "MontantRemunerationBrute",
+       "MontantRemunerationBruteTheorique", "SoumiseUrssaf"});
+  v.rsExConjoints = NouveauRecordset({"CodeRubrique", "NbEnfantsACharge", "TauxTempsGarde"});
+  v.RsHeuresHebdoMultiples = NouveauRecordset({"DateDebut", "DateFin", "HeuresHebdo"});
+  const std::vector<std::string> plafonds = {
+      "DateDebutPeriode", "DateFinPeriode", "TotalIndemnitesPeriode", "PlafondSSPeriode",
+      "IndemniteColleEnCoursPeriode", "NbJourPeriode", "NbJourPeriodeSurPaieMoisEnCours"};
+  v.RsPlafondUrssafPeriodes = NouveauRecordset(plafonds);
+  v.RsPlafondIrcantecPeriodes = NouveauRecordset(plafonds);
+}
+
 double Montant(const LigneBulletin& l, const std::string& quoi) {
   if (quoi == "BASE") return l.dBase;
   if (quoi == "PATRONAL") return l.dMontantPatronal;
@@ -77,6 +94,7 @@ Bulletin CalculeSalarie(MethodeCalculG_Nouv& m, const DonneesMois& d, const Sala
   m.gRsCumulsHistoriqueSal = s.cumulsHisto;
 
   VarCalculSalarie v;
+  TablesVides(v);
   v.lIdSalarie = s.lIdSalarie;
   v.sMatricule = s.sMatricule;
   tools::Applique(v, s.champs);
