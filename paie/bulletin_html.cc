@@ -25,7 +25,7 @@ h1 { font-size: 14pt; margin: 0 0 2mm; }
 table { width: 100%; border-collapse: collapse; }
 th, td { padding: 1mm 1.5mm; }
 thead th { background: #2f4858; color: #fff; font-weight: normal; font-size: 8pt; text-align: right; }
-thead th:first-child { text-align: left; }
+thead th:first-child, thead th.g { text-align: left; }
 td.n { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
 tr.groupe td { font-weight: bold; background: #e8eef2; border-top: 1px solid #9ab; }
 tr.total td { font-weight: bold; border-top: 1px solid #333; }
@@ -199,7 +199,7 @@ std::string IndexHtml(const ResultatMois& mois) {
   const std::string periode = MoisEnLettres(mois.mois);
   std::string h = fmt::format("<h1>Bulletins de paie — {}</h1>\n<p>{}</p>\n", periode,
                               Echappe(mois.employeur.nom));
-  h += "<table>\n<thead><tr><th>Matricule</th><th>Agent</th><th>Emploi</th><th>Brut</th>"
+  h += "<table>\n<thead><tr><th>Matricule</th><th class=g>Agent</th><th class=g>Emploi</th><th>Brut</th>"
        "<th>Net payé</th><th>Coût employeur</th><th>Anomalies</th></tr></thead>\n<tbody>\n";
   Totaux t;
   for (const auto& b : mois.bulletins) {
