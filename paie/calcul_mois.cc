@@ -1,5 +1,6 @@
 #include "paie/calcul_mois.h"
 
+#include <algorithm>
 #include <chrono>
 #include <unordered_map>
 
@@ -15,39 +16,55 @@ const std::vector<std::string> kColonnesCumuls = {"Idcumul",      "CodeCumul",
                                                   "PartSalarialeRappel", "PartPatronaleRappel"};
 
 // The employee's totals of the month, as the engine reads them (gRsCumuls) and as the
-// store keeps them.
+// store keeps them. A capped total shows the smaller of its sum and its cap.
 class CumulsSalarie {
  public:
-  explicit CumulsSalarie(const std::vector<Cumul>& cumuls) : rs_(NouveauRecordset(kColonnesCumuls)) {
+  explicit CumulsSalarie(const std::vector<Cumul>& cumuls)
+      : cumuls_(cumuls), rs_(NouveauRecordset(kColonnesCumuls)) {
     for (const auto& c : cumuls) {
       rs_->AddNew();
       rs_->SetField("Idcumul", Value(static_cast<double>(c.IdCumul)));
       rs_->SetField("CodeCumul", Value(c.CodeCumul));
       for (const char* col : {"PartSalariale", "PartPatronale", "PartSalarialeRappel", "PartPatronaleRappel"})
         rs_->SetField(col, Value(0.0));
-      valeurs_[c.CodeCumul] = {0.0, 0.0};
+      sommes_[c.CodeCumul] = {0.0, 0.0};
+      vus_[c.CodeCumul] = {0.0, 0.0};
     }
     rs_->ClearFilter();
   }
 
   const RsRef& Source() const { return rs_; }
   std::map<std::string, std::pair<double, double>> Valeurs() const {
-    return {valeurs_.begin(), valeurs_.end()};
+    return {vus_.begin(), vus_.end()};
   }
 
   void Ajoute(const std::string& code, char part, double montant) {
-    auto& v = valeurs_.at(code);
+    auto& v = sommes_.at(code);
     double& x = part == 'P' ? v.second : v.first;
     // Totals stay in cents: the sum of amounts already rounded, rounded again against drift.
     x = Arrondi(x + montant, 2);
-    rs_->Filter("CodeCumul = '" + code + "'");
-    rs_->SetField(part == 'P' ? "PartPatronale" : "PartSalariale", Value(x));
-    rs_->ClearFilter();
+    Montre(code, part);
+    for (const auto& c : cumuls_)
+      if (c.plafondDe == code) Montre(c.CodeCumul, part);
   }
 
  private:
+  void Montre(const std::string& code, char part) {
+    const Cumul& c = *std::find_if(cumuls_.begin(), cumuls_.end(),
+                                   [&](const Cumul& x) { return x.CodeCumul == code; });
+    auto cote = [part](std::pair<double, double>& p) -> double& { return part == 'P' ? p.second : p.first; };
+    double valeur = cote(sommes_.at(code));
+    if (!c.plafondDe.empty())
+      valeur = std::min(valeur, Arrondi(cote(vus_.at(c.plafondDe)) * c.plafondTaux / 100, 2));
+    cote(vus_.at(code)) = valeur;
+    rs_->Filter("CodeCumul = '" + code + "'");
+    rs_->SetField(part == 'P' ? "PartPatronale" : "PartSalariale", Value(valeur));
+    rs_->ClearFilter();
+  }
+
+  const std::vector<Cumul>& cumuls_;
   RsRef rs_;
-  std::unordered_map<std::string, std::pair<double, double>> valeurs_;
+  std::unordered_map<std::string, std::pair<double, double>> sommes_, vus_;
 };
 
 // The record's own tables that the store does not hold yet: empty, so that a handler walking

@@ -14,16 +14,17 @@ class CalculMoisTest : public DossierTest {
     return m->LitMois(mois);
   }
 
-  // Agent 1001 (index 366, full time, no child, zone 0) with the treatment given as a fixed
-  // amount of 1801.73 a month, so that the lines after it run on a known base.
-  std::string CommuneTraitementFixe() {
-    const std::string c = Commune(3);
+  // The commune with the treatment given as a fixed amount of 1801.73 a month to every
+  // agent (the treatment of index 366), so that the lines after it run on a known base.
+  std::string CommuneTraitementFixe(int agents = 3) {
+    const std::string c = Commune(agents);
     Sql(c,
         "UPDATE rubriques SET methode = 'MONTANT FIXE', "
         "sValeurTauxSalarial = 'UNE VARIABLE SALARIE', lIdValeurTauxSalarial = 509 "
         "WHERE lIdRubrique = 100;"
-        "INSERT INTO variables SELECT 1001, mois, 509, 'TRAIT', 1801.73, '', 'M' "
-        "FROM variables WHERE lIdSalarie = 1002 AND IdVariable = 501;");
+        "INSERT INTO variables WITH RECURSIVE m(n) AS (SELECT 202401 UNION ALL SELECT n + 1 "
+        "FROM m WHERE n < 202412) SELECT s.lIdSalarie, CAST(m.n AS TEXT), 509, 'TRAIT', "
+        "1801.73, '', 'M' FROM salaries s, m;");
     return c;
   }
 };
@@ -79,17 +80,37 @@ TEST_F(CalculMoisTest, LignesSurUnTraitementConnu) {
 }
 
 TEST_F(CalculMoisTest, PrimeEtCotisationsDeLAgentAvecIfse) {
-  // Agent 1003: IFSE of 200 a month. RAFP 5 % + 5 % of 200 = 10 and 10; CSG base
-  // 200 x 98.25 % = 196.50: 13.362, 4.716, 0.9825; family allowances 3.45 % = 6.90.
-  const ResultatMois r = Mois(Commune(3), "2024-03");
-  const Bulletin& b = *BulletinDe(r, 1003);
-  EXPECT_DOUBLE_EQ(Ligne(b, "IFSE")->dMontantSalarial, 200.0);
-  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dMontantSalarial, 10.0);
-  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dMontantPatronal, 10.0);
-  EXPECT_DOUBLE_EQ(Ligne(b, "CSGDED")->dMontantSalarial, 13.36);
-  EXPECT_DOUBLE_EQ(Ligne(b, "CSGNDED")->dMontantSalarial, 4.72);
-  EXPECT_DOUBLE_EQ(Ligne(b, "CRDS")->dMontantSalarial, 0.98);
-  EXPECT_DOUBLE_EQ(Ligne(b, "ALLFAM")->dMontantPatronal, 6.9);
+  // Agent 1009 (no NBI, no child, zone 0): treatment 1801.73 and IFSE 300; gross 2101.73.
+  const ResultatMois r = Mois(CommuneTraitementFixe(9), "2024-03");
+  const Bulletin& b = *BulletinDe(r, 1009);
+  EXPECT_DOUBLE_EQ(Ligne(b, "IFSE")->dMontantSalarial, 300.0);
+  // RAFP 5 % + 5 % of 300, under its cap of 20 % x 1801.73 = 360.35: 15 and 15.
+  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dBase, 300.0);
+  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dMontantSalarial, 15.0);
+  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dMontantPatronal, 15.0);
+  // CSG base 2101.73 x 98.25 % = 2064.949725: 6.8 % = 140.41658, 2.4 % = 49.558793,
+  // 0.5 % = 10.324749; family allowances 3.45 % of 2101.73 = 72.509685.
+  EXPECT_DOUBLE_EQ(Ligne(b, "CSGDED")->dMontantSalarial, 140.42);
+  EXPECT_DOUBLE_EQ(Ligne(b, "CSGNDED")->dMontantSalarial, 49.56);
+  EXPECT_DOUBLE_EQ(Ligne(b, "CRDS")->dMontantSalarial, 10.32);
+  EXPECT_DOUBLE_EQ(Ligne(b, "ALLFAM")->dMontantPatronal, 72.51);
+  EXPECT_DOUBLE_EQ(b.totaux.brut, 2101.73);
+}
+
+TEST_F(CalculMoisTest, AssietteRafpPlafonneeAVingtPourCentDuTraitement) {
+  // Agent 1001 with an IFSE of 400: the RAFP base is capped at 20 % x 1801.73 = 360.346,
+  // 360.35; 5 % of it = 18.0175, 18.02 on each side.
+  const std::string c = CommuneTraitementFixe(1);
+  Sql(c,
+      "INSERT INTO variables SELECT 1001, mois, 501, 'IFSE', 400, '', 'M' FROM variables "
+      "WHERE IdVariable = 509;"
+      "INSERT INTO salarie_rubriques VALUES (1001, 140);");
+  const ResultatMois r = Mois(c, "2024-03");
+  const Bulletin& b = *BulletinDe(r, 1001);
+  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dBase, 360.35);
+  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dMontantSalarial, 18.02);
+  EXPECT_DOUBLE_EQ(Ligne(b, "RAFP")->dMontantPatronal, 18.02);
+  EXPECT_DOUBLE_EQ(b.cumuls.at("ASSRAFP").first, 360.35);
 }
 
 TEST_F(CalculMoisTest, UneLigneQuiEchoueEstGardeeEtNeCompteDansAucunTotal) {

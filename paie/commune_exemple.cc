@@ -58,7 +58,6 @@ constexpr Constante kConstantes[] = {
     {22, "DEMISMIC", 883.46, "M", "Abattement des contrats courts (50 % du SMIC mensuel)"},
     {30, "HRSAPPR", 151.67, "M", "Heures mensuelles d'un apprenti à temps plein"},
     {40, "ABATCSG", 98.25, "T", "Assiette de la CSG et de la CRDS (% du brut)"},
-    {41, "PLAFRAFP", 20, "T", "Plafond de l'assiette RAFP (% du traitement indiciaire brut)"},
 };
 
 struct Taux {
@@ -424,9 +423,11 @@ void EcritReference(Base& base) {
     }
   }
   {
-    Requete r = base.Prepare("INSERT INTO cumuls VALUES (?, ?, ?)");
+    Requete r = base.Prepare("INSERT INTO cumuls VALUES (?, ?, ?, NULL, NULL)");
     int id = 1;
     for (const auto& c : kCumuls) r.Lie(1, id++).Lie(2, std::string(c[0])).Lie(3, std::string(c[1])).Execute();
+    // The RAFP base: at most 20 % of the gross index-based treatment (treatment and NBI).
+    base.Execute("UPDATE cumuls SET plafond_de = 'ASSCNRACL', plafond_taux = 20 WHERE CodeCumul = 'ASSRAFP'");
   }
   {
     Requete r = base.Prepare("INSERT INTO preparations VALUES (?, ?)");

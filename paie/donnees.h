@@ -41,6 +41,8 @@ struct RubriquePlan {
 struct Cumul {
   Int32 IdCumul = 0;
   std::string CodeCumul, libelle;
+  std::string plafondDe;  // empty: no cap
+  double plafondTaux = 0;  // percent of plafondDe
 };
 
 struct Salarie {

@@ -267,12 +267,21 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargeCumuls(DonneesMois& d) {
-    Requete r = base_.Prepare("SELECT IdCumul, CodeCumul, libelle FROM cumuls ORDER BY IdCumul");
+    Requete r = base_.Prepare(
+        "SELECT IdCumul, CodeCumul, libelle, plafond_de, plafond_taux FROM cumuls ORDER BY IdCumul");
     while (r.Pas()) {
       const std::string ligne = fmt::format("IdCumul {}", r.Entier(0));
-      d.cumuls.push_back({static_cast<std::int32_t>(r.Entier(0)), TexteOuVide(r, 1, "cumuls", ligne),
-                          TexteOuVide(r, 2, "cumuls", ligne)});
+      Cumul c{static_cast<std::int32_t>(r.Entier(0)), TexteOuVide(r, 1, "cumuls", ligne),
+              TexteOuVide(r, 2, "cumuls", ligne), TexteOuVide(r, 3, "cumuls", ligne), 0};
+      c.plafondTaux = Nombre(r, 4, "cumuls", ligne).NombreOuZero();
+      d.cumuls.push_back(std::move(c));
     }
+    for (const auto& c : d.cumuls)
+      if (!c.plafondDe.empty() &&
+          std::none_of(d.cumuls.begin(), d.cumuls.end(),
+                       [&](const Cumul& x) { return x.CodeCumul == c.plafondDe; }))
+        Erreur("cumuls", fmt::format("IdCumul {}", c.IdCumul), "plafond_de",
+               "no total '" + c.plafondDe + "'");
   }
 
   void ChargePreparations(DonneesMois& d) {

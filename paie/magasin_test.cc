@@ -121,6 +121,14 @@ TEST_F(MagasinTest, CumulInconnuDansLesAlimentations) {
   EXPECT_TRUE(Contient(Refus(c), "column 'CodeCumul': no total 'BRUTT'"));
 }
 
+TEST_F(MagasinTest, PlafondSurUnCumulInconnu) {
+  const std::string c = Commune(1);
+  Sql(c, "PRAGMA foreign_keys = OFF; UPDATE cumuls SET plafond_de = 'TRAITEMENT' WHERE CodeCumul = 'ASSRAFP'");
+  const long long id = Nombre(c, "SELECT IdCumul FROM cumuls WHERE CodeCumul = 'ASSRAFP'");
+  EXPECT_EQ(Refus(c), "table 'cumuls', IdCumul " + std::to_string(id) +
+                          ", column 'plafond_de': no total 'TRAITEMENT'");
+}
+
 TEST_F(MagasinTest, ValeursEnVigueurAuMois) {
   const std::string c = Commune(1);
   // The point changes in July: March reads the January value, its history both.

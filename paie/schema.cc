@@ -33,8 +33,11 @@ CREATE TABLE bareme_pas (
   TypeBareme TEXT NOT NULL, depuis TEXT NOT NULL,
   BorneInf REAL, BorneSup REAL, TauxNeutre REAL);
 
+-- A total may be capped at a percentage of another (the RAFP base at 20 % of the treatment):
+-- the engine and the store see the capped value.
 CREATE TABLE cumuls (
-  IdCumul INTEGER PRIMARY KEY, CodeCumul TEXT NOT NULL UNIQUE, libelle TEXT NOT NULL);
+  IdCumul INTEGER PRIMARY KEY, CodeCumul TEXT NOT NULL UNIQUE, libelle TEXT NOT NULL,
+  plafond_de TEXT REFERENCES cumuls (CodeCumul), plafond_taux REAL);
 
 -- The preparations run for every employee before the lines, in order.
 CREATE TABLE preparations (ordre INTEGER PRIMARY KEY, methode TEXT NOT NULL);
