@@ -1,6 +1,7 @@
 #include "paie/commande.h"
 
 #include <chrono>
+#include <map>
 #include <ostream>
 
 #include <CLI/CLI.hpp>
@@ -57,11 +58,23 @@ void Resume(const ResultatMois& r, std::ostream& s) {
              r.secondes > 0 ? static_cast<double>(r.lignes) / r.secondes : 0.0);
   fmt::print(s, "gross {:.2f}  net paid {:.2f}  employer cost {:.2f}\n", brut, net, cout);
   fmt::print(s, "failed lines: {}\n", r.echecs);
+  if (r.echecs == 0) return;
+  // By pay line first, then each failure, up to a screenful: all of them are in the store.
+  std::map<std::string, long> parLigne;
   for (const auto& b : r.bulletins)
     for (const auto& l : b.lignes)
-      if (!l.ok)
+      if (!l.ok) ++parLigne[l.sCodeRubrique + " (" + l.methode + ")"];
+  for (const auto& [ligne, n] : parLigne) fmt::print(s, "  {:>6}  {}\n", n, ligne);
+  constexpr long kMontres = 40;
+  long montres = 0;
+  for (const auto& b : r.bulletins)
+    for (const auto& l : b.lignes)
+      if (!l.ok && montres++ < kMontres)
         fmt::print(s, "  {} {} {}: {} ({})\n", b.sMatricule, b.nom, b.prenom, l.sCodeRubrique,
                    l.methode);
+  if (montres > kMontres)
+    fmt::print(s, "  ... and {} more: every failed line is in the table lignes with ok = 0\n",
+               montres - kMontres);
 }
 
 }  // namespace
