@@ -16,25 +16,19 @@ namespace {
 TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
       "CalculCoefficientDemiTraitement",
-      "CalculRubrique_Retenue_a_la_source",
       "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
       "dMontantProratiseSuivantDemiTraitement",
       "CalculRubrique_Indemnite_transport_Corse",
-      "CalculRubrique_Retenue_a_la_source_NouvelleMethode",
       "CalculRubrique_Traitement_Indiciaire_Journalier",
       "CalculRubrique_TraitementHoraireMois",
       "CalculRubrique_TraitementIndiciaireMois",
       "CalculRubrique_TraitementIndiciaireMoisPrecedent",
-      "CalculRubrique_TraitementIndiciaireElus",
-      "CalculRubrique_TraitementForfaitaireElus",
       "CalculRubrique_DemiTraitementIndiciaire",
       "CalculRubrique_AllocationComplementaireMaladie",
       "CalculRubrique_AllocationComplementaireMaladieNbi",
       "CalculRubrique_BonificationIndiciaire",
       "CalculRubrique_DemiTraitementBonification",
-      "CalculRubrique_IndemniteResidence",
       "CalculRubrique_IndemniteCoordination",
-      "CalculRubrique_SupplementFamilial",
       "CalculRubrique_CPA",
       "CalculRubrique_CFA",
       "CalculRubrique_HeuresComplementaires",
@@ -59,28 +53,22 @@ TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
       "CalculRubrique_SujetionsSpeciales",
       "CalculRubrique_Mgen",
       "CalculRubrique_SupplementFamilialIC",
-      "CalculRubrique_TraitementIndiciaireElusPrecedent",
       "CalculRubrique_TraitementBaseParticulier",
       "CalculRubrique_AllocationFormation",
-      "CalculRubrique_TraitementIndiciaireElusMois",
-      "CalculRubrique_TraitementForfaitaireElusMois",
-      "CalculRubrique_TraitementIndiciaireElusPrecedentMois",
       "CalculRubrique_IndemniteFormation",
       "CalculRubrique_MontantReference",
-      "CalculRubrique_ReversementSFT",
       "CalculRubrique_TraitementJournalierSmic",
       "CalculRubrique_Irf",
       "CalculRubrique_Ipf",
       "CalculRubrique_Ifse",
       "CalculRubrique_Cia",
-      "CalculRubrique_TraitementIndiciaireElusEcrete",
       "CalculRubrique_MaintienSalaireHoraire",
       "CalculRubrique_MaintienSalaire",
       "CalculRubrique_TptNonSubroge",
       "CalculRubrique_Carence",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 63u);
+  EXPECT_EQ(NomsEnAttente().size(), 51u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {
