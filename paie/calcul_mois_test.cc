@@ -164,5 +164,30 @@ TEST_F(CalculMoisTest, ChaqueAgentDeLaCommuneAUnBulletin) {
   EXPECT_DOUBLE_EQ(apprenti.totaux.brut, 936.49);
 }
 
+TEST_F(CalculMoisTest, IndemnitesDuMaireEtDeLAdjoint) {
+  const ResultatMois r = Mois(Commune(), "2024-03");
+  // Terminal index 830 x 59.0734 / 12 = 4085.9101; - 0.0049 and rounded: 4085.91.
+  // Mayor 55 % = 2247.2505; deputy 22 % = 898.9002.
+  const Bulletin& maire = *BulletinDe(r, 1039);
+  EXPECT_DOUBLE_EQ(Ligne(maire, "ELUIND")->dBase, 4085.91);
+  EXPECT_DOUBLE_EQ(Ligne(maire, "ELUIND")->dMontantSalarial, 2247.25);
+  // IRCANTEC tranche A: 2.80 % = 62.923, 4.20 % = 94.3845.
+  EXPECT_DOUBLE_EQ(Ligne(maire, "IRCANTECA")->dMontantSalarial, 62.92);
+  EXPECT_DOUBLE_EQ(Ligne(maire, "IRCANTECA")->dMontantPatronal, 94.38);
+  EXPECT_DOUBLE_EQ(maire.totaux.brut, 2247.25);
+  EXPECT_DOUBLE_EQ(Ligne(*BulletinDe(r, 1040), "ELUIND")->dMontantSalarial, 898.9);
+}
+
+TEST_F(CalculMoisTest, SupplementFamilialAuPlancher) {
+  // Indexes under the floor index 454 take the floor treatment:
+  // 454 x 59.0734 / 12 - 0.0049 = 2234.9387 -> 2234.94.
+  const ResultatMois r = Mois(Commune(4), "2024-03");
+  // One child: 2.29. Two: 10.67 + 3 % x 2234.94 = 77.7182, truncated 77.71.
+  // Three: 15.24 + 8 % x 2234.94 = 194.0352, truncated 194.03.
+  EXPECT_DOUBLE_EQ(Ligne(*BulletinDe(r, 1002), "SFT")->dMontantSalarial, 2.29);
+  EXPECT_DOUBLE_EQ(Ligne(*BulletinDe(r, 1003), "SFT")->dMontantSalarial, 77.71);
+  EXPECT_DOUBLE_EQ(Ligne(*BulletinDe(r, 1004), "SFT")->dMontantSalarial, 194.03);
+}
+
 }  // namespace
 }  // namespace orvalis::paie

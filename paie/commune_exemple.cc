@@ -24,7 +24,8 @@ struct ValeurFixe {
   const char* libelle;
 };
 constexpr ValeurFixe kValeursFixes[] = {
-    {"Point", 4.92278, "Valeur mensuelle du point d'indice (59,0734 EUR par an)"},
+    // The engine works on the yearly value: a monthly treatment is index x point / 12.
+    {"Point", 59.0734, "Valeur annuelle du point d'indice (4,92278 EUR par mois)"},
     {"PlafSecu", 3864, "Plafond mensuel de la sécurité sociale"},
     {"SmicHor", 11.65, "SMIC horaire brut"},
     {"HrsMois", 151.67, "Durée mensuelle légale (heures)"},

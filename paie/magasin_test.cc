@@ -132,14 +132,14 @@ TEST_F(MagasinTest, PlafondSurUnCumulInconnu) {
 TEST_F(MagasinTest, ValeursEnVigueurAuMois) {
   const std::string c = Commune(1);
   // The point changes in July: March reads the January value, its history both.
-  Sql(c, "INSERT INTO valeurs_fixes VALUES ('Point', '202407', 5.0, 'essai')");
+  Sql(c, "INSERT INTO valeurs_fixes VALUES ('Point', '202407', 60.0, 'essai')");
   auto m = OuvreMagasinSqlite(c);
   DonneesMois mars = m->ChargeMois("2024-03");
-  EXPECT_DOUBLE_EQ(mars.constantesFixes->Field("Point").Nombre(), 4.92278);
+  EXPECT_DOUBLE_EQ(mars.constantesFixes->Field("Point").Nombre(), 59.0734);
   DonneesMois aout = m->ChargeMois("2024-08");
-  EXPECT_DOUBLE_EQ(aout.constantesFixes->Field("Point").Nombre(), 5.0);
+  EXPECT_DOUBLE_EQ(aout.constantesFixes->Field("Point").Nombre(), 60.0);
   aout.constantesFixesHistorique->Filter("Mois = '202406'");
-  EXPECT_DOUBLE_EQ(aout.constantesFixesHistorique->Field("Point").Nombre(), 4.92278);
+  EXPECT_DOUBLE_EQ(aout.constantesFixesHistorique->Field("Point").Nombre(), 59.0734);
   // Before January 2024 nothing is in force: a null.
   aout.constantesFixesHistorique->Filter("Mois = '202312'");
   EXPECT_TRUE(aout.constantesFixesHistorique->Field("Point").EstNull());
