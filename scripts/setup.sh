@@ -4,8 +4,8 @@
 # for the pay run. Packages already present are left alone, so a second run costs nothing.
 set -euo pipefail
 
-packages=(g++ cmake make pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev
-          nlohmann-json3-dev libsqlite3-dev libcli11-dev libfmt-dev)
+packages=(g++ cmake make googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev pkgconf binutils
+          libsqlite3-dev libcli11-dev libfmt-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

@@ -93,6 +93,7 @@ const std::vector<Operation>& TableDesAppels() {
          &N::RechercheDonneesPourCalculExonerationAllocFamOuFillon),
       Op("bDeclenchementComplementTauxCotisations", &N::bDeclenchementComplementTauxCotisations),
       Op("CalculRubrique_Indemnite_transport_Corse", &N::CalculRubrique_Indemnite_transport_Corse),
+      Op("dBaremeKilometrique", &N::dBaremeKilometrique),
       Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
          &N::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
       Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),

@@ -389,6 +389,15 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                     const std::string& sDecalage, double& dResultat,
                                     double dTaux);
 
+  // ---- Mileage scale (salary/) -----------------------------------------------------------
+  // One journey of lKmParcouru km in a vehicle of lKmPuissance fiscal horsepower, lKmCumule
+  // km having been driven before it in the year: the rate of the band of that distance for
+  // lKm1 km and, for the part past the band's end, the rate of the next band for lKm2 km.
+  // Gives the amount, also written to dMontant.
+  double dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance, Int32 lKmCumule,
+                             double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
+                             double& dMontant);
+
   // ---- Absences and replacement income (absences/) ---------------------------------------
   void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
                                               SalarieCalculRubrique& Rubrique,
