@@ -5,7 +5,7 @@
 set -euo pipefail
 
 packages=(g++ cmake make googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev pkgconf binutils
-          libsqlite3-dev libcli11-dev libfmt-dev)
+          ccache libsqlite3-dev libcli11-dev libfmt-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
