@@ -177,6 +177,9 @@ void LieMoteurs(py::module_& m) {
       "Where the message box goes: a callable given each text, a list the texts are appended "
       "to, or None (the texts are kept in `messages`).");
   moteur.def(
+      "MsgBox", [](MoteurCalcul& e, py::handle texte) { e.MsgBox(TexteDepuisPython(texte, "MsgBox")); },
+      py::arg("texte"), "Shows a text in the message box, as the rules do.");
+  moteur.def(
       "call", [](MoteurCalcul& e, const std::string& nom, const py::args& args) { return Appelle(e, nom, args); },
       py::arg("operation"),
       "Calls an operation of the call table by name; records stand for themselves and None "

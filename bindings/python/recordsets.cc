@@ -44,8 +44,9 @@ void LieRecordsets(py::module_& m) {
       .def("to_list", [](const Recordset& rs) { return DictsDepuisTable(rs); },
            "Every row, whatever the filter, as a dict by column.")
       .def("__len__", [](const Recordset& rs) { return rs.Rows().size(); })
-      .def("__getitem__", [](const Recordset& rs, long long i) {
-        return DictsDepuisTable(rs)[Position(rs, i)];
+      .def("__getitem__", [](const Recordset& rs, long long i) -> py::object {
+        const py::list lignes = DictsDepuisTable(rs);
+        return lignes[Position(rs, i)];
       })
       .def("__iter__", [](const Recordset& rs) { return DictsDepuisTable(rs).attr("__iter__")(); })
       .def("__repr__", [](const Recordset& rs) {
