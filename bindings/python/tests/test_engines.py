@@ -27,6 +27,11 @@ def test_sources_are_shared_with_the_engine(moteur):
     autre = orvalis.MethodeCalculG_Nouv()
     autre.gRsTaux = taux
     assert autre.dRechercheValeurTaux("RAFP") == 5.0
+    # A Recordset given by the host is the engine's source itself.
+    rs = orvalis.Recordset([{"CodeTaux": "RAFP", "PartSalariale": 5.004}])
+    moteur.gRsTaux = rs
+    assert moteur.gRsTaux is rs
+    assert moteur.dRechercheValeurTaux("RAFP") == 5.0  # 5.004 rounded to 2 places
     moteur.gRsTaux = None
     assert moteur.gRsTaux is None
 
