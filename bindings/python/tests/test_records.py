@@ -99,3 +99,16 @@ def test_a_copy_is_a_record_of_its_own():
     c = s.copy()
     c.iEnfant_ACharge = 3
     assert (s.iEnfant_ACharge, c.iEnfant_ACharge) == (2, 3)
+
+
+def test_a_detail_table_hung_by_a_handler_reads_as_a_list_of_dicts():
+    moteur = orvalis.MethodeCalculG_Nouv()
+    moteur.gPeriodeEncours = "01/02/2024"
+    salarie = orvalis.VarCalculSalarie(sEluPeriodicite="2", sDateDebut="01/01/2020")
+    ligne = orvalis.SalarieCalculRubrique()
+    # A quarterly official in February, mid-quarter: no withholding, the detail table stands empty.
+    assert moteur.CalculPrelevementALaSource_CasParticulierElu(salarie, ligne) == 0.0
+    detail = ligne.rsPrelevementSourceElus
+    assert detail.columns == ["NumeroOrdre", "DesignationMandat", "DateDebut", "DateFin", "RemunerationBrute",
+                              "IndiceMajore", "FraisEmploiMandatUnique", "EluNonEligibleAbatFraisEmploi"]
+    assert detail.to_list() == [] and ligne.to_dict()["rsPrelevementSourceElus"] == []
