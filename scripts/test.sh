@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the engine, its tools and tests, and passes every test twice: once as built for
 # the hosts, once under AddressSanitizer and UndefinedBehaviorSanitizer, where any report
-# fails the run.
+# fails the run. The Python module is built on the first build and its tests run with pytest.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/setup.sh
@@ -18,6 +18,20 @@ fi
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo "${cache[@]}"
 cmake --build build -j"$jobs"
 ctest --test-dir build --output-on-failure -j"$jobs"
+
+# The Python module, linked with the library just built, installed as a host installs it in
+# a fresh environment over Debian's interpreter (which carries pybind11 and pytest).
+venv=build/python-venv
+/usr/bin/python3 -m venv --clear --system-site-packages "$venv"
+ORVALIS_BUILD_DIR="$PWD/build" CMAKE_BUILD_PARALLEL_LEVEL="$jobs" \
+  "$venv/bin/pip" install --no-build-isolation --no-deps --no-index --quiet .
+pytest_status=0
+"$venv/bin/python" -m pytest -v -rfE bindings/python/tests || pytest_status=$?
+case $pytest_status in
+  0) ;;
+  5) echo "pytest: no Python test was collected" >&2; exit 1 ;;
+  *) echo "pytest: status $pytest_status" >&2; exit 1 ;;
+esac
 
 cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DORVALIS_SANITIZE=ON -DORVALIS_BENCHMARKS=OFF \
   "${cache[@]}"

@@ -32,18 +32,6 @@ std::vector<AffectationSource> LitSources(const Json& j, const std::string& lieu
   return sources;
 }
 
-const Operation& TrouveOperation(const std::string& nom, TypeMoteur m, const std::string& lieu) {
-  const unsigned masque = m == TypeMoteur::Nouv ? kNouv : kHisto;
-  bool ailleurs = false;
-  for (const auto& op : TableDesAppels()) {
-    if (op.nom != nom) continue;
-    if (op.moteurs & masque) return op;
-    ailleurs = true;
-  }
-  if (ailleurs) throw ErreurCas(lieu, std::string(NomMoteur(m)) + " has no operation '" + nom + "'");
-  throw ErreurCas(lieu, "unknown operation '" + nom + "'");
-}
-
 bool Snapshot(const Json& etape, const std::string& lieu) {
   return etape.contains("snapshot") && LitBooleen(etape["snapshot"], Sous(lieu, "snapshot"));
 }
@@ -201,6 +189,18 @@ class GardeDoublons {
 };
 
 }  // namespace
+
+const Operation& TrouveOperation(const std::string& nom, TypeMoteur m, const std::string& lieu) {
+  const unsigned masque = m == TypeMoteur::Nouv ? kNouv : kHisto;
+  bool ailleurs = false;
+  for (const auto& op : TableDesAppels()) {
+    if (op.nom != nom) continue;
+    if (op.moteurs & masque) return op;
+    ailleurs = true;
+  }
+  if (ailleurs) throw ErreurCas(lieu, std::string(NomMoteur(m)) + " has no operation '" + nom + "'");
+  throw ErreurCas(lieu, "unknown operation '" + nom + "'");
+}
 
 const std::vector<DefSource>& TableDesSources() {
   static const std::vector<DefSource> kSources = {

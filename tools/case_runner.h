@@ -28,6 +28,10 @@ struct DefSource {
 // The recordset properties of the engines, in one table.
 const std::vector<DefSource>& TableDesSources();
 
+// The operation of the call table by exact name on that engine; an unknown name, or one of
+// the other engine only, is an ErreurCas at `lieu`.
+const Operation& TrouveOperation(const std::string& nom, TypeMoteur m, const std::string& lieu);
+
 struct AffectationSource {
   const DefSource* source;
   RsRef valeur;  // null: no source
