@@ -176,6 +176,11 @@ TEST_F(CalculMoisTest, IndemnitesDuMaireEtDeLAdjoint) {
   EXPECT_DOUBLE_EQ(Ligne(maire, "IRCANTECA")->dMontantPatronal, 94.38);
   EXPECT_DOUBLE_EQ(maire.totaux.brut, 2247.25);
   EXPECT_DOUBLE_EQ(Ligne(*BulletinDe(r, 1040), "ELUIND")->dMontantSalarial, 898.9);
+  // Their tax at source reads the share of employment costs, "EluTxFrais": every line of the
+  // commune computes.
+  EXPECT_TRUE(Ligne(maire, "PAS")->ok);
+  EXPECT_TRUE(Ligne(*BulletinDe(r, 1040), "PAS")->ok);
+  EXPECT_EQ(r.echecs, 0);
 }
 
 TEST_F(CalculMoisTest, SupplementFamilialAuPlancher) {

@@ -94,6 +94,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
   auto* demo = app.add_subcommand("demo", "create the sample commune in a new store");
   demo->add_option("STORE", store, "the store to create (a new file)")->required();
   demo->add_option("--agents", agents, "number of agents (40 by default)")->check(CLI::Range(1, 1000000));
+  demo->add_flag("--replace", remplacer, "replace the store if the file exists");
 
   auto* paie = app.add_subcommand("paie", "compute a month for every employee of the store");
   paie->add_option("STORE", store, "the store")->required();
@@ -120,6 +121,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
 
   try {
     if (demo->parsed()) {
+      if (remplacer) RetireMagasin(store);
       CreeCommuneExemple(store, agents);
       fmt::print(sortie, "{}: the sample commune, {} agents\n", store, agents);
       return 0;

@@ -71,6 +71,11 @@ TEST_F(CommandeTest, DemoRefuseUnFichierExistant) {
   const std::string c = Commune(1);
   EXPECT_EQ(Lance({"demo", c}), 1);
   EXPECT_TRUE(Contient(erreurs_.str(), "already exists"));
+  // Asked for, the store is made anew: the month computed in it is gone.
+  ASSERT_EQ(Lance({"paie", c, "2024-03"}), 0);
+  ASSERT_EQ(Lance({"demo", c, "--replace", "--agents", "2"}), 0) << erreurs_.str();
+  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM salaries"), 2);
+  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM calculs"), 0);
 }
 
 // Killed while the month is written, the store holds the month whole or not at all.

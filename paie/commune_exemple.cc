@@ -44,6 +44,8 @@ constexpr ValeurFixe kValeursFixes[] = {
     {"SFvarsup", 6, "SFT, part proportionnelle par enfant au-delà du troisième (%)"},
     {"IndMinSF", 454, "SFT, indice majoré plancher"},
     {"IndMaxSF", 722, "SFT, indice majoré plafond"},
+    {"EluTxFrais", 25.5, "Élus : frais d'emploi non imposables, % de l'indice terminal (indemnité "
+                         "du maire d'une commune de moins de 500 habitants)"},
 };
 
 struct Constante {
@@ -476,6 +478,11 @@ void EcritReference(Base& base) {
 }
 
 }  // namespace
+
+void RetireMagasin(const std::string& chemin) {
+  for (const char* suffixe : {"", "-journal", "-wal", "-shm"})
+    std::filesystem::remove(chemin + suffixe);
+}
 
 void CreeCommuneExemple(const std::string& chemin, int agents) {
   if (std::filesystem::exists(chemin)) throw ErreurMagasin(chemin + ": already exists");

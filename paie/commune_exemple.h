@@ -12,6 +12,8 @@ inline constexpr int kAgentsCommune = 40;
 // Creates the store at `chemin` (which must not exist) holding the sample commune with
 // `agents` agents; the kinds repeat, with varied indexes, beyond the first forty.
 void CreeCommuneExemple(const std::string& chemin, int agents = kAgentsCommune);
+// Removes a store file and the journal files SQLite may have left beside it.
+void RetireMagasin(const std::string& chemin);
 
 }  // namespace orvalis::paie
 

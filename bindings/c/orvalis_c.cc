@@ -530,17 +530,11 @@ int orvalis_call(orvalis_engine* engine, const char* operation, const char* args
     Requis(result_json, "output pointer");
     *result_json = nullptr;
     const Operation* op = nullptr;
-    bool ailleurs = false;
-    for (const auto& o : TableDesAppels()) {
-      if (o.nom != operation) continue;
-      if (o.moteurs & Masque(e)) op = &o;
-      else ailleurs = true;
-      if (op) break;
+    try {
+      op = &TrouveOperation(operation, e.nouv ? TypeMoteur::Nouv : TypeMoteur::Histo, "");
+    } catch (const ErreurCas& inconnue) {
+      throw Echec{ORVALIS_NOTFOUND, inconnue.Message()};
     }
-    if (op == nullptr)
-      throw Echec{ORVALIS_NOTFOUND, ailleurs ? std::string(e.nouv ? "MethodeCalculG_Nouv" : "MethodeCalculG") +
-                                                   " has no operation '" + operation + "'"
-                                             : std::string("unknown operation '") + operation + "'"};
     const Json args = LitTexteJson(args_json ? args_json : "[]", "args");
     if (Nomme(args, "$salarie")) {
       Requis(employee, "orvalis_employee for \"$salarie\"");
