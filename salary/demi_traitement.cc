@@ -127,10 +127,7 @@ void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilialIC(VarCalculSalarie& 
                                                               SalarieCalculRubrique& Rubrique,
                                                               const std::string& sVariante) {
   VarCalculSalarie& s = InfosSalaries;
-  if (s.iNBJ_DispoOfficeIATA == 0 && s.iNBJ_DispoOfficeIATN == 0 && s.iNBJ_DispoOfficeINTA == 0 &&
-      s.iNBJ_DispoOfficeINTN == 0) {
-    return;
-  }
+  if (!salaire::ADesJoursDeDisponibilite(s)) return;
   const salaire::JoursParQuart N = salaire::JoursDeLaLigne(*this, s, sVariante, Rubrique);
   Rubrique.dBase = s.dMontant_SFT;
   Rubrique.dTauxSalarial = N.Total();

@@ -20,6 +20,12 @@ inline bool ADesJoursDeDemiTraitement(const VarCalculSalarie& s) {
   return false;
 }
 
+// Any of the four quadrant counts of availability is not 0.
+inline bool ADesJoursDeDisponibilite(const VarCalculSalarie& s) {
+  return s.iNBJ_DispoOfficeIATA != 0 || s.iNBJ_DispoOfficeIATN != 0 || s.iNBJ_DispoOfficeINTA != 0 ||
+         s.iNBJ_DispoOfficeINTN != 0;
+}
+
 struct JoursParQuart {
   Int16 iata = 0, iatn = 0, inta = 0, intn = 0;
   double Total() const { return iata + iatn + inta + intn; }

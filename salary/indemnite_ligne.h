@@ -3,21 +3,17 @@
 #ifndef ORVALIS_SALARY_INDEMNITE_LIGNE_H_
 #define ORVALIS_SALARY_INDEMNITE_LIGNE_H_
 
-#include "orvalis/ModOutilsSpec.h"
-#include "orvalis/SalarieCalculRubrique.h"
+#include "salary/salaire_outils.h"
+#include "salary/traitement_outils.h"
 
 namespace orvalis::indemnites {
 
 // A full month of a yearly amount on an index: Round2(annual / 12 - 0.0049).
-inline double MensuelPlein(double dAnnuel) { return Arrondi(dAnnuel / 12 - 0.0049, 2); }
+inline double MensuelPlein(double dAnnuel) { return salaire::DouziemeArrondi(dAnnuel); }
 
 // The employee part of a line; the employer part is 0.
 inline void Ligne(SalarieCalculRubrique& r, double dBase, double dTaux, double dMontant) {
-  r.dBase = dBase;
-  r.dTauxSalarial = dTaux;
-  r.dMontantSalarial = dMontant;
-  r.dTauxPatronal = 0;
-  r.dMontantPatronal = 0;
+  salaire::EcritLigne(r, dBase, dTaux, dMontant);
 }
 
 }  // namespace orvalis::indemnites

@@ -6,6 +6,7 @@
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "salary/salaire_outils.h"
+#include "salary/traitement_outils.h"
 
 namespace orvalis {
 
@@ -35,7 +36,7 @@ void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& In
       s.iNBJ_CFAIATA + s.iNBJ_CFAIATN + s.iNBJ_CongeFormationIATA + s.iNBJ_CongeFormationIATN);
   const double dBase = dNouvel + dAncien;
   // A month of the yearly base, as a month salary: the cent goes downward.
-  salaire::EcritLigne(Rubrique, dBase, 0, Arrondi(dBase / 12 - 0.0049, 2));
+  salaire::EcritLigne(Rubrique, dBase, 0, salaire::DouziemeArrondi(dBase));
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& InfosSalaries,

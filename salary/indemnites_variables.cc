@@ -8,6 +8,7 @@
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "salary/salaire_outils.h"
+#include "salary/traitement_outils.h"
 
 namespace orvalis {
 
@@ -71,7 +72,7 @@ void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*I
   if (K == 0) return;
   const double P = Arrondi(ConstanteFixe("Point"), 2);
   const double I = Arrondi(ConstanteFixe("IndInform"), 2);
-  const double dMois = Arrondi(P * I / 12 - 0.0049, 2);
+  const double dMois = salaire::DouziemeArrondi(P * I);
   EcritLigne(Rubrique, dMois, K, Arrondi(dMois * K, 2));
 }
 

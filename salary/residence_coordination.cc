@@ -9,10 +9,7 @@ void MethodeCalculG_Nouv::CalculRubrique_IndemniteCoordination(VarCalculSalarie&
                                                                SalarieCalculRubrique& Rubrique,
                                                                const std::string& sVariante) {
   VarCalculSalarie& s = InfosSalaries;
-  if (s.iNBJ_DispoOfficeIATA == 0 && s.iNBJ_DispoOfficeIATN == 0 && s.iNBJ_DispoOfficeINTA == 0 &&
-      s.iNBJ_DispoOfficeINTN == 0) {
-    return;
-  }
+  if (!salaire::ADesJoursDeDisponibilite(s)) return;
   const salaire::JoursParQuart N = salaire::JoursDeLaLigne(*this, s, sVariante, Rubrique);
   const Int16 iJours = N.iata + N.iatn + N.inta + N.intn + s.iNBJ_CFAIATA + s.iNBJ_CFAIATN +
                        s.iNBJ_CFAINTA + s.iNBJ_CFAINTN + s.iNBJ_CPAIATA + s.iNBJ_CPAIATN +
