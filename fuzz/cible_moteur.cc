@@ -3,6 +3,7 @@
 // preparation and calculation calls by names of the dispatch tables, with random pay lines.
 // Every call answers true or false; a crash, a hang, a leak or an escaped exception is a
 // finding.
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -131,10 +132,26 @@ void Sources(fuzz::Octets& in, Moteur& m) {
   }
 }
 
+// A name of the table: mostly one whose handler has landed (a pending one only faults),
+// now and then any row, or a name no row has.
 template <typename Table>
 std::string UnNom(fuzz::Octets& in, Table table) {
-  if (in.Choix(16) == 0) return UnTexte(in);  // now and then a name no row has
-  return table[in.Choix(table.size())].nom;
+  switch (in.Choix(16)) {
+    case 0: return UnTexte(in);
+    case 1: return table[in.Choix(table.size())].nom;
+    default: {
+      static const std::vector<const char*> prets = [&] {
+        const std::vector<std::string> attente = HandlersEnAttente();
+        std::vector<const char*> v;
+        for (const auto& l : table)
+          if (std::find(attente.begin(), attente.end(), l.handler) == attente.end())
+            v.push_back(l.nom);
+        return v;
+      }();
+      if (prets.empty()) return table[in.Choix(table.size())].nom;
+      return prets[in.Choix(prets.size())];
+    }
+  }
 }
 
 template <typename Moteur, typename TablePrep, typename TableCalc>
