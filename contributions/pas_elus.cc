@@ -3,6 +3,7 @@
 // its detail table rsPrelevementSourceElus (one row a mandate).
 #include <optional>
 
+#include "contributions/elus_outils.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
@@ -11,36 +12,9 @@ namespace orvalis {
 
 namespace {
 
-constexpr std::size_t kLongueurDesignation = 50;
-
-// The last n characters of a text (all of it when shorter).
-std::string Droite(const std::string& s, std::size_t n) {
-  return s.size() <= n ? s : s.substr(s.size() - n);
-}
-
-// The designation column holds 50 characters; the text is cut at a character boundary.
-std::string TronqueDesignation(const std::string& s) {
-  std::size_t nCaracteres = 0;
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    if ((static_cast<unsigned char>(s[i]) & 0xC0) == 0x80) continue;  // continuation byte
-    if (nCaracteres == kLongueurDesignation) return s.substr(0, i);
-    ++nCaracteres;
-  }
-  return s;
-}
-
-// A flag of a mandate row: a null is neither true nor false.
-std::optional<bool> Indicateur(const Value& v) {
-  if (v.EstNull()) return std::nullopt;
-  if (v.EstTexte()) {
-    const std::string& s = v.Chaine();
-    if (s == "True" || s == "true" || s == "TRUE" || s == "Vrai" || s == "VRAI") return true;
-    if (s == "False" || s == "false" || s == "FALSE" || s == "Faux" || s == "FAUX") return false;
-  }
-  return v.Nombre() != 0;
-}
-
-bool EstFaux(const Value& v) { return Indicateur(v) == std::optional<bool>(false); }
+using elus::DernierMoisMandat;
+using elus::EstFaux;
+using elus::FinDePeriode;
 
 // A date of a mandate as the host gives it, a date text or a date serial; a null (or an
 // empty text) leaves every comparison with it unknown.
@@ -68,15 +42,6 @@ int MoisDeLaPeriode(double dPeriodicite) {
   return 0;
 }
 
-bool FinDePeriode(int iMoisPeriode, int iMois) {
-  switch (iMoisPeriode) {
-    case 3: return iMois % 3 == 0;
-    case 6: return iMois == 6 || iMois == 12;
-    case 12: return iMois == 12;
-    default: return true;
-  }
-}
-
 }  // namespace
 
 RsRef MethodeCalculG_Nouv::EnregistreDetailPrelevementElu() {
@@ -94,9 +59,7 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(
   const double dPeriodicite = Value(InfosSalaries.sEluPeriodicite).Nombre();
   const bool bMensuel = dPeriodicite == 1;
   const int iMoisPeriode = MoisDeLaPeriode(dPeriodicite);
-  const bool bDernierMoisContrat =
-      !InfosSalaries.sDateFin.empty() &&
-      Droite(InfosSalaries.sDateFin, 7) == Droite(gPeriodeEncours, 7);
+  const bool bDernierMoisContrat = DernierMoisMandat(InfosSalaries.sDateFin, gPeriodeEncours);
   if (!FinDePeriode(iMoisPeriode, Mois(dPeriode)) && !bDernierMoisContrat) return 0;
 
   const double dIndice = dRechercheValeur_Constantes(gRsConstantes, "INDMAJELU");
@@ -176,9 +139,7 @@ double MethodeCalculG_Nouv::CalculPrelevementALaSource_CasParticulierElu(
           lNumeroOrdre += 1;
           rsDetail.AddNew();
           rsDetail.SetField("NumeroOrdre", Value(lNumeroOrdre.value()));
-          rsDetail.SetField("DesignationMandat",
-                            vDesignation.EstNull() ? vDesignation
-                                                   : Value(TronqueDesignation(vDesignation.Texte())));
+          rsDetail.SetField("DesignationMandat", elus::CelluleDesignation(vDesignation));
           rsDetail.SetField("DateDebut", rsAutres.Field("DateDebut"));
           rsDetail.SetField("DateFin", rsAutres.Field("DateFin"));
           rsDetail.SetField("RemunerationBrute", vBrute);

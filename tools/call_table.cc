@@ -96,6 +96,11 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
          &N::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
       Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),
+      Op("CalculRetenueSource_DonneesMandat", &N::CalculRetenueSource_DonneesMandat),
+      Op("CalculRetenueSource_Bareme", &N::CalculRetenueSource_Bareme),
+      Op("EnregistreDetailRetenueSource", &N::EnregistreDetailRetenueSource),
+      Op("EnregistreDetailRetenueSource_NouvelleMethode",
+         &N::EnregistreDetailRetenueSource_NouvelleMethode),
       Op("CalculRubrique_Traitement_Indiciaire_Journalier",
          &N::CalculRubrique_Traitement_Indiciaire_Journalier),
       Op("CalculRubrique_Imposition_a_la_source_Frontalier",
@@ -119,6 +124,9 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMinHistorique", &M::dRechercheIndMinHistorique),
       Op("dRechercheHistoriqueMois", &M::dRechercheHistoriqueMois),
       Op("dRechercheSmicHistorique", &M::dRechercheSmicHistorique),
+      // The officials' reference index and the allowance of an earlier month.
+      Op("dRechercheIndMajElu", &N::dRechercheIndMajElu),
+      Op("dRechercheIndMajEluPeriode", &N::dRechercheIndMajEluPeriode),
 
       // ---- Resolvers of the generic pay lines ------------------------------------------------
       Op("RechercheValeurBase", &N::RechercheValeurBase),

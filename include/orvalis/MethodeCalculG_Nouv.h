@@ -218,6 +218,23 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   // A new, empty detail table of the officials' tax at source (rsPrelevementSourceElus).
   RsRef EnregistreDetailPrelevementElu();
 
+  // ---- Withholding on elected officials' allowances (contributions/) ---------------------
+  // New, empty detail tables of the withholding: the historic one (rsRetenueALaSource) and
+  // the one of the new method (rsRetenueALaSourceNouvelleMethode).
+  RsRef EnregistreDetailRetenueSource();
+  RsRef EnregistreDetailRetenueSource_NouvelleMethode();
+  // The frame of one payment period of the official: the expenses allowance of a mandate,
+  // the social security ceiling of the period, periods a year, months a period, and the
+  // coefficient that brings a constant of the tax scale to the payment periodicity.
+  void CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries, double& dFraisMandat,
+                                         double& dPlafondPeriode, double& dPeriodesAn,
+                                         double& dMoisPeriode, double& dCoefBareme);
+  // The tranche of the officials' tax scale for a net taxable amount of the period.
+  void CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries, double dNetImposable,
+                                  double dPeriodesAn, double& dTauxTranche,
+                                  double& dTrancheBasse, double& dTrancheHaute,
+                                  double& dConstante);
+
   // ---- Salary elements (salary/) ---------------------------------------------------------
   void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
                                             const std::string& sPeriode);
@@ -358,6 +375,19 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                           const RsRef& RsVarSalaries);
   void CalculRubrique_TraitementIndiciaireElusEcrete(VarCalculSalarie& InfosSalaries,
                                                      SalarieCalculRubrique& Rubrique);
+
+  // ---- Elected officials' reference index (salary/) --------------------------------------
+  // The reference index of the month sPeriode moved back sDecalage months (a number as a
+  // text): dValeur when it is not 0; otherwise 820 before 11/2006, 821 before 2017, then the
+  // constant "INDMAJELU". Into dValeur; gives dValeur.
+  double dRechercheIndMajElu(double& dValeur, const std::string& sPeriode,
+                             const std::string& sDecalage);
+  // The allowance of the month sPeriode moved back sDecalage months, on that month's point
+  // and index, times the rate dTaux (a coefficient; -1 takes the mandate's own rate). Into
+  // dResultat; gives dResultat.
+  double dRechercheIndMajEluPeriode(VarCalculSalarie& InfosSalaries, const std::string& sPeriode,
+                                    const std::string& sDecalage, double& dResultat,
+                                    double dTaux);
 
   // ---- Absences and replacement income (absences/) ---------------------------------------
   void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
