@@ -18,6 +18,7 @@
 #include "fuzz/octets.h"
 #include "orvalis/MethodeCalculG.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
 #include "orvalis/fields.h"
 
 namespace {
@@ -45,21 +46,29 @@ std::string UneDate(fuzz::Octets& in) {
   return t;
 }
 
-std::string UnTexte(fuzz::Octets& in) {
-  switch (in.Choix(4)) {
-    case 0: return Mot(in);
-    case 1: return UneDate(in);
-    case 2: return in.Texte(12);
-    default: return "";
-  }
-}
-
 double UnDouble(fuzz::Octets& in) {
   static const double kBords[] = {0, 1, -1, 0.5, 100, 151.67, 1e9, -1e9, 35, 1e300, NAN, INFINITY};
   switch (in.Choix(3)) {
     case 0: return kBords[in.Choix(std::size(kBords))];
     case 1: return static_cast<std::int16_t>(in.Entier(2)) / 4.0;
     default: return in.DoubleBrut();
+  }
+}
+
+// A word of the engine, a date, a number written as the hosts write it (comma or point),
+// raw bytes, or nothing.
+std::string UnTexte(fuzz::Octets& in) {
+  switch (in.Choix(5)) {
+    case 0: return Mot(in);
+    case 1: return UneDate(in);
+    case 2: return in.Texte(12);
+    case 3: {
+      const double d = UnDouble(in);
+      std::string t = std::isfinite(d) ? TexteNombre(d) : "1E+400";
+      if (in.Booleen()) std::replace(t.begin(), t.end(), '.', ',');
+      return t;
+    }
+    default: return "";
   }
 }
 
