@@ -22,7 +22,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 lanceur=()
 command -v ccache >/dev/null 2>&1 && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
-cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
+cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_C_COMPILER=clang \
   -DORVALIS_FUZZ=ON -DORVALIS_SANITIZE=ON -DORVALIS_BENCHMARKS=OFF "${lanceur[@]}" >/dev/null
 cibles_build=()
 for c in $cibles; do cibles_build+=(--target "fuzz_$c"); done

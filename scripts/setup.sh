@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Installs what the project needs on a fresh Debian 12 machine: the compiler, CMake,
-# GoogleTest, Google Benchmark and the JSON library of the host tools; clang and its runtime
-# for the libFuzzer targets, gcovr for the coverage report. Packages already
-# present are left alone, so a second run costs nothing.
+# GoogleTest, Google Benchmark, the JSON library of the host tools, SQLite, CLI11 and fmt
+# for the pay run; clang and its runtime for the libFuzzer targets, gcovr for the coverage
+# report. Packages already present are left alone, so a second run costs nothing.
 set -euo pipefail
 
-packages=(g++ cmake make googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
-          clang libclang-rt-14-dev gcovr)
+packages=(g++ cmake make googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev pkgconf binutils
+          ccache libsqlite3-dev libcli11-dev libfmt-dev clang libclang-rt-14-dev gcovr)
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
