@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# Builds the engine and its tools with gcov instrumentation, runs the tests that assert
+# results (unit tests and golden cases; not the fuzz replays, which only check that nothing
+# breaks) and prints line and branch coverage per subsystem, then in total. The HTML report goes to build-coverage/coverage/index.html.
+# Branches: those of thrown exceptions and those the compiler cannot reach are left out.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+jobs=$(nproc 2>/dev/null || echo 2)
+lanceur=()
+command -v ccache >/dev/null 2>&1 && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+
+cmake -S . -B build-coverage -DCMAKE_BUILD_TYPE=Debug -DORVALIS_COVERAGE=ON \
+  -DORVALIS_BENCHMARKS=OFF "${lanceur[@]}" >/dev/null
+cmake --build build-coverage -j"$jobs"
+find build-coverage -name '*.gcda' -delete
+ctest --test-dir build-coverage -j"$jobs" --output-on-failure -E '^fuzz\.' >/dev/null
+
+options=(--root . --object-directory build-coverage --exclude '.*_test\.cc$'
+         --exclude '.*_test_.*\.h$' --exclude '.*test_util.*' --exclude '.*test_outils.*'
+         --exclude 'fuzz/' --exclude 'tests/' --exclude 'benchmarks/'
+         --exclude-throw-branches --exclude-unreachable-branches)
+mkdir -p build-coverage/coverage
+gcovr "${options[@]}" --json build-coverage/coverage/coverage.json \
+  --html-details build-coverage/coverage/index.html >/dev/null
+
+# One line per subsystem: lines and branches covered of those instrumented.
+python3 - build-coverage/coverage/coverage.json <<'PY'
+import json, sys
+data = json.load(open(sys.argv[1]))
+tot = {}
+for f in data["files"]:
+    sub = f["file"].split("/")[0] if "/" in f["file"] else "."
+    l = tot.setdefault(sub, [0, 0, 0, 0])
+    for line in f["lines"]:
+        if line.get("gcovr/noncode"):
+            continue
+        l[0] += 1
+        l[1] += line["count"] > 0
+        for b in line.get("branches", []):
+            l[2] += 1
+            l[3] += b["count"] > 0
+def pc(a, b):
+    return f"{100.0 * a / b:5.1f}%" if b else "    -"
+print(f"{'subsystem':<16}{'lines':>20}{'branches':>22}")
+all_ = [0, 0, 0, 0]
+for sub in sorted(tot):
+    l = tot[sub]
+    all_ = [x + y for x, y in zip(all_, l)]
+    print(f"{sub:<16}{l[1]:>7}/{l[0]:<6} {pc(l[1], l[0])}{l[3]:>8}/{l[2]:<6} {pc(l[3], l[2])}")
+print(f"{'total':<16}{all_[1]:>7}/{all_[0]:<6} {pc(all_[1], all_[0])}{all_[3]:>8}/{all_[2]:<6} {pc(all_[3], all_[2])}")
+PY
