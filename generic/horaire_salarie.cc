@@ -67,7 +67,8 @@ void TauxHoraireMoisPrec(MoteurCalcul& m, double dCoeffMajoration,
   const double dBase = Historique("BASE");
   const double dRappel = Historique("BASERAPPEL");
   const double dDifferentielle = Historique("INDDIFF");
-  const double dHeures = m.dRechercheHeuresMoisHistorique(RsSalariesHisto, m.gPeriodeEncours);
+  const double dHeures =
+      m.dRechercheHeuresMoisHistorique(RsSalariesHisto, InfosSalaries.lIdSalarie, m.gPeriodeEncours);
   if (dHeures == 0) return;
   dValeur = (dBase + dDifferentielle - dRappel) / dHeures * dCoeffMajoration;
   sType = "M";

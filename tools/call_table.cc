@@ -85,6 +85,7 @@ const std::vector<Operation>& TableDesAppels() {
       Op("MajDateEnFormatChaine", &MajDateEnFormatChaine, kNouv),
       Op("MajChaineEnFormatDate", &MajChaineEnFormatDate),
       Op("dMontantProratiseSuivantDemiTraitement", &N::dMontantProratiseSuivantDemiTraitement),
+      Op("dCoefficientIndemnitaireDemiTraitement", &N::dCoefficientIndemnitaireDemiTraitement),
       Op("CalculRubrique_Gipa", &N::CalculRubrique_Gipa),
       Op("dMontantGIPA", &N::dMontantGIPA),
       Op("CalculRubrique_BaseTauxChoix", &N::CalculRubrique_BaseTauxChoix),
@@ -93,6 +94,7 @@ const std::vector<Operation>& TableDesAppels() {
          &N::RechercheDonneesPourCalculExonerationAllocFamOuFillon),
       Op("bDeclenchementComplementTauxCotisations", &N::bDeclenchementComplementTauxCotisations),
       Op("CalculRubrique_Indemnite_transport_Corse", &N::CalculRubrique_Indemnite_transport_Corse),
+      Op("dBaremeKilometrique", &N::dBaremeKilometrique),
       Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
          &N::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
       Op("RechercheValeursListeCumul", &N::RechercheValeursListeCumul),
@@ -172,9 +174,9 @@ const std::vector<Operation>& TableDesAppels() {
       Op("RechercheValeurCoefficient", &N::RechercheValeurCoefficient),
       Op("RechercheValeurTauxSalarial", &N::RechercheValeurTauxSalarial),
       Op("RechercheValeurTauxPatronal", &N::RechercheValeurTauxPatronal),
-      Op("dRechercheTauxPatronal", &N::dRechercheTauxPatronal),
-      Op("bTauxCsgProfessionnel", &N::bTauxCsgProfessionnel),
-      Op("CalculTauxHoraireSalarie", &N::CalculTauxHoraireSalarie),
+      Op("dRechercheTauxPatronal", &M::dRechercheTauxPatronal),
+      Op("bTauxCsgProfessionnel", &M::bTauxCsgProfessionnel),
+      Op("CalculTauxHoraireSalarie", &M::CalculTauxHoraireSalarie),
       Op("dArbitrageJours", &N::dArbitrageJours),
 
       // ---- Preparations reached by name, and the older forms of the day counts -------------
@@ -204,6 +206,14 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculNombreJourDetachementSansPension", &N::CalculNombreJourDetachementSansPension),
       Op("CalculNombreJourMaintienTraitement", &N::CalculNombreJourMaintienTraitement),
       Op("CalculNombreJourTptNonSubroge", &N::CalculNombreJourTptNonSubroge),
+
+      // ---- Strike, waiting-day and maintained-pay lines reached by name ----------------------
+      Op("CalculRubrique_Greve", &N::CalculRubrique_Greve),
+      Op("CalculRubrique_Carence", &N::CalculRubrique_Carence),
+      Op("CalculRubrique_MaintienSalaire", &N::CalculRubrique_MaintienSalaire),
+      Op("CalculRubrique_MaintienSalaireHoraire", &N::CalculRubrique_MaintienSalaireHoraire),
+      Op("dMaintienSalaireCoefficient", &N::dMaintienSalaireCoefficient),
+      Op("CalculRubrique_TptNonSubroge", &N::CalculRubrique_TptNonSubroge),
 
       // ---- Generic pay lines reached by name -------------------------------------------------
       Op("CalculRubrique_MontantFixe", &N::CalculRubrique_MontantFixe),

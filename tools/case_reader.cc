@@ -12,18 +12,6 @@ namespace {
 
 constexpr std::array<std::string_view, 5> kGenres = {"prepare", "calc", "set", "sources", "call"};
 
-const DefSource kSources[] = {
-    {"gRsConstantes", &MoteurCalcul::gRsConstantes, nullptr},
-    {"gRsTaux", &MoteurCalcul::gRsTaux, nullptr},
-    {"gRsTauxSpecifique", &MoteurCalcul::gRsTauxSpecifique, nullptr},
-    {"gRsCumuls", &MoteurCalcul::gRsCumuls, nullptr},
-    {"gRsConstantesFixes", &MoteurCalcul::gRsConstantesFixes, nullptr},
-    {"gRsVariables", &MoteurCalcul::gRsVariables, nullptr},
-    {"gRsConstantesFixesHistorique", &MoteurCalcul::gRsConstantesFixesHistorique, nullptr},
-    {"gRsCumulsHistoriqueSal", &MoteurCalcul::gRsCumulsHistoriqueSal, nullptr},
-    {"gRsConstantesHistorique", nullptr, &MethodeCalculG_Nouv::gRsConstantesHistorique},
-    {"gRsBaremeTauxPAS", nullptr, &MethodeCalculG_Nouv::gRsBaremeTauxPAS},
-};
 
 const char* NomMoteur(TypeMoteur m) {
   return m == TypeMoteur::Nouv ? "MethodeCalculG_Nouv" : "MethodeCalculG";
@@ -35,7 +23,7 @@ std::vector<AffectationSource> LitSources(const Json& j, const std::string& lieu
   for (const auto& [nom, valeur] : j.items()) {
     const std::string ici = Sous(lieu, nom);
     const DefSource* def = nullptr;
-    for (const auto& d : kSources)
+    for (const auto& d : TableDesSources())
       if (nom == d.nom) def = &d;
     if (def == nullptr || (def->nouv != nullptr && m != TypeMoteur::Nouv))
       throw ErreurCas(ici, std::string(NomMoteur(m)) + " has no source '" + nom + "'");
@@ -213,6 +201,22 @@ class GardeDoublons {
 };
 
 }  // namespace
+
+const std::vector<DefSource>& TableDesSources() {
+  static const std::vector<DefSource> kSources = {
+      {"gRsConstantes", &MoteurCalcul::gRsConstantes, nullptr},
+      {"gRsTaux", &MoteurCalcul::gRsTaux, nullptr},
+      {"gRsTauxSpecifique", &MoteurCalcul::gRsTauxSpecifique, nullptr},
+      {"gRsCumuls", &MoteurCalcul::gRsCumuls, nullptr},
+      {"gRsConstantesFixes", &MoteurCalcul::gRsConstantesFixes, nullptr},
+      {"gRsVariables", &MoteurCalcul::gRsVariables, nullptr},
+      {"gRsConstantesFixesHistorique", &MoteurCalcul::gRsConstantesFixesHistorique, nullptr},
+      {"gRsCumulsHistoriqueSal", &MoteurCalcul::gRsCumulsHistoriqueSal, nullptr},
+      {"gRsConstantesHistorique", nullptr, &MethodeCalculG_Nouv::gRsConstantesHistorique},
+      {"gRsBaremeTauxPAS", nullptr, &MethodeCalculG_Nouv::gRsBaremeTauxPAS},
+  };
+  return kSources;
+}
 
 Json LitTexteJson(const std::string& texte, const std::string& nomEntree) {
   if (texte.find_first_not_of(" \t\r\n") == std::string::npos)

@@ -25,6 +25,9 @@ struct DefSource {
   RsRef MethodeCalculG_Nouv::*nouv;    // a property of MethodeCalculG_Nouv only, or null
 };
 
+// The recordset properties of the engines, in one table.
+const std::vector<DefSource>& TableDesSources();
+
 struct AffectationSource {
   const DefSource* source;
   RsRef valeur;  // null: no source

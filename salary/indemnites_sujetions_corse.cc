@@ -1,0 +1,58 @@
+// Two allowances on a yearly or a line base: the special duties allowance, a month of the
+// overtime reference salary for the days on duty, and the Corsica transport allowance, a
+// rate of the line's base between a floor and a ceiling.
+#include <algorithm>
+
+#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
+#include "salary/salaire_outils.h"
+
+namespace orvalis {
+
+namespace {
+
+// The yearly reference of one index, for its share of the month and its days on duty:
+// the days of end of activity and of training leave are not on duty.
+double PartSurIndice(double dReference, double dCoefficients, Int16 iPresence,
+                     Int16 iHorsService) {
+  if (iPresence == 0) return 0;
+  return dReference * dCoefficients * (iPresence - iHorsService).value() / iPresence.value();
+}
+
+}  // namespace
+
+void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
+                                                            SalarieCalculRubrique& Rubrique) {
+  const VarCalculSalarie& s = InfosSalaries;
+  // Each index pays on its own quadrants' share of the month.
+  const double dNouvel = PartSurIndice(
+      s.dBase_HSN, s.dCoefficient_INTA + s.dCoefficient_INTN,
+      s.iNBJ_PresenceINTA + s.iNBJ_PresenceINTN,
+      s.iNBJ_CFAINTA + s.iNBJ_CFAINTN + s.iNBJ_CongeFormationINTA + s.iNBJ_CongeFormationINTN);
+  const double dAncien = PartSurIndice(
+      s.dBase_HSA, s.dCoefficient_IATA + s.dCoefficient_IATN,
+      s.iNBJ_PresenceIATA + s.iNBJ_PresenceIATN,
+      s.iNBJ_CFAIATA + s.iNBJ_CFAIATN + s.iNBJ_CongeFormationIATA + s.iNBJ_CongeFormationIATN);
+  const double dBase = dNouvel + dAncien;
+  // A month of the yearly base, as a month salary: the cent goes downward.
+  salaire::EcritLigne(Rubrique, dBase, 0, Arrondi(dBase / 12 - 0.0049, 2));
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& InfosSalaries,
+                                                                   const RsRef& RsVarSalaries,
+                                                                   SalarieCalculRubrique& Rubrique) {
+  const double B = RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+  if (B == 0) return;
+  const auto C = [&](const char* sCode) { return dRechercheValeur_Constantes(gRsConstantes, sCode); };
+  const double dTaux = C("TXTRANCOR3");
+  double A = B * dTaux;
+  // The floor and the ceiling are each an amount at its rate, like the allowance itself; a
+  // bound that comes to 0 is not set.
+  const double dPlancher = C("INDTRANCOR1") * C("TXTRANCOR1");
+  const double dPlafond = C("INDTRANCOR2") * C("TXTRANCOR2");
+  if (dPlancher > 0) A = std::max(A, dPlancher);
+  if (dPlafond > 0) A = std::min(A, dPlafond);
+  salaire::EcritLigne(Rubrique, B, dTaux, A);
+}
+
+}  // namespace orvalis
