@@ -163,6 +163,18 @@ TEST(CoefficientIndiceTest, CaseDIndexNextMonthIgnoresTheHours) {
   EXPECT_EQ(Coefficients(Indice("15/04/2023", "15/03/2023")).jours, (Quadrants{30, 0, 0, 0}));
 }
 
+TEST(CoefficientIndiceTest, CaseDReadsNoHoursDate) {
+  // The index alone decides case D: an empty or unreadable hours date is never read there.
+  for (const char* sHeures : {"", "pas une date"}) {
+    const Resultat r = Coefficients(Indice("15/04/2023", sHeures));
+    ASSERT_TRUE(r.ok);
+    EXPECT_EQ(r.jours, (Quadrants{30, 0, 0, 0}));
+  }
+  // Cases E and F must read it: an old index change with no hours date is a fault.
+  EXPECT_FALSE(Coefficients(Indice("01/01/2022", "")).ok);
+  EXPECT_FALSE(Coefficients(Indice("15/05/2023", "")).ok);
+}
+
 TEST(CoefficientIndiceTest, CaseEHoursOnlyInTheMonth) {
   EXPECT_EQ(Coefficients(Indice("01/01/2022", "15/03/2023")).jours, (Quadrants{0, 0, 14, 16}));
 }

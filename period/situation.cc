@@ -77,6 +77,7 @@ void RepartitQuadrants(const VarCalculSalarie& s, Date dS, Int16 d1, Int16 d2, I
     } else if (iIATN >= 1 || iIATA >= 1) {
       jY = jI();
     }
+    // A period ending on day Y or before is counted here again in full: kept for the hosts.
     if (jY && d2 > *jY && d1 < *jY) {
       iINTN = iINTN + d2 - *jY + 1;
     } else {

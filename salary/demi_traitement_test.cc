@@ -173,6 +173,35 @@ TEST_F(DemiTraitementTest, FamilySupplementOfAvailabilityDays) {
   EXPECT_DOUBLE_EQ(r.dMontantSalarial, 10 * 111.37 / 30);
 }
 
+TEST_F(DemiTraitementTest, CoordinationAllowanceOnAvailabilityAndCessationDays) {
+  // No availability day: the line is left as it came.
+  MoisAvec({});
+  r = SalarieCalculRubrique();
+  r.dMontantSalarial = 5;
+  ASSERT_TRUE(m.Appel_Methode_Calcul_General("INDEMNITE COORDINATION (IND RES)", s, r));
+  EXPECT_EQ(r.dMontantSalarial, 5);
+
+  MoisAvec({{"DO", "21/07/2023", ""}});  // 10 days of availability, 2 children: C = 0.5
+  s.dIndResTotale = 54.05;
+  ASSERT_TRUE(Ligne("INDEMNITE COORDINATION (IND RES)", "INDCOIR"));
+  EXPECT_EQ(s.dCoefficient_DemiTraitement, 0.5);
+  EXPECT_EQ(r.dBase, 54.05);
+  EXPECT_EQ(r.dTauxSalarial, 10);
+  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 10 * 54.05 / 30 * 0.5);  // 9.008333
+  EXPECT_EQ(r.dMontantPatronal, 0);
+
+  // CFA and CPA days count beside the line's days, not in its rate.
+  s.iNBJ_CFAINTN = 2;
+  s.iNBJ_CPAIATA = 1;
+  ASSERT_TRUE(Ligne("INDEMNITE COORDINATION (IND RES)", "INDCOIR"));
+  EXPECT_EQ(r.dTauxSalarial, 10);
+  EXPECT_DOUBLE_EQ(r.dMontantSalarial, 13 * 54.05 / 30 * 0.5);  // 11.710833
+
+  // The day sum is carried in 16 bits.
+  s.iNBJ_CPAIATA = 32767;
+  EXPECT_FALSE(Ligne("INDEMNITE COORDINATION (IND RES)", "INDCOIR"));
+}
+
 TEST_F(DemiTraitementTest, AmountProratedOnHalfPay) {
   s.iNBJ_Presence_Total = 30;
   s.iNBJ_DemiTraitement_Total = 10;

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Installs what the project needs on a fresh Debian 12 machine: the compiler, CMake,
-# GoogleTest, Google Benchmark and the JSON library of the host tools. Packages already
-# present are left alone, so a second run costs nothing.
+# GoogleTest, Google Benchmark, the JSON library of the host tools, and SQLite, CLI11 and fmt
+# for the pay run. Packages already present are left alone, so a second run costs nothing.
 set -euo pipefail
 
-packages=(g++ cmake make googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev pkgconf binutils ccache)
+packages=(g++ cmake make googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev pkgconf binutils
+          ccache libsqlite3-dev libcli11-dev libfmt-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

@@ -32,7 +32,14 @@ constexpr const char* kAide =
     "(prepare, calc, set, sources, call) on one engine object. Exit status: 0 when the\n"
     "case ran, whatever the engine returned; 2 when the case or the command line is\n"
     "wrong, with one line on standard error and nothing on standard output.\n"
-    "The format of case files: docs/case-files.md.\n";
+    "The format of case files: docs/case-files.md.\n"
+    "\n"
+    "The pay run of a commune over an SQLite store (orvalis COMMAND --help for each):\n"
+    "  orvalis demo STORE [--agents N]                 create the sample commune\n"
+    "  orvalis paie STORE MONTH [--replace] [--payslips FOLDER]\n"
+    "                                                  compute a month, e.g. 2024-03\n"
+    "  orvalis bulletins STORE MONTH FOLDER            write the payslips of a month\n"
+    "The store's schema: docs/paie-store.md.\n";
 
 int Usage(std::ostream& erreurs, const std::string& probleme) {
   erreurs << "orvalis: " << probleme << '\n' << kUsage;

@@ -1,0 +1,80 @@
+// Test fixtures of the pay run: a fresh folder per test and the sample commune in it.
+#ifndef ORVALIS_PAIE_PAIE_TEST_OUTILS_H_
+#define ORVALIS_PAIE_PAIE_TEST_OUTILS_H_
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+
+#include "frame/en_attente.h"
+#include "paie/commune_exemple.h"
+#include "paie/magasin.h"
+#include "paie/sqlite.h"
+
+namespace orvalis::paie {
+
+class DossierTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+    dossier_ = std::filesystem::temp_directory_path() /
+               (std::string("orvalis-paie-") + info->test_suite_name() + "-" + info->name() + "-" +
+                std::to_string(getpid()));
+    std::filesystem::remove_all(dossier_);
+    std::filesystem::create_directories(dossier_);
+  }
+  void TearDown() override { std::filesystem::remove_all(dossier_); }
+
+  std::string Chemin(const std::string& nom) const { return (dossier_ / nom).string(); }
+
+  // The sample commune in a new store; gives its path.
+  std::string Commune(int agents = kAgentsCommune) {
+    const std::string c = Chemin("commune.db");
+    CreeCommuneExemple(c, agents);
+    return c;
+  }
+
+  static void Sql(const std::string& chemin, const std::string& sql) {
+    Base b(chemin, false);
+    b.Execute(sql);
+  }
+  static long long Nombre(const std::string& chemin, const std::string& sql) {
+    Base b(chemin, false);
+    Requete r = b.Prepare(sql);
+    return r.Pas() ? r.Entier(0) : -1;
+  }
+
+  static bool EnAttente(const std::string& handler) {
+    const auto& n = NomsEnAttente();
+    return std::find(n.begin(), n.end(), handler) != n.end();
+  }
+
+ private:
+  std::filesystem::path dossier_;
+};
+
+// The text holds the part.
+inline ::testing::AssertionResult Contient(const std::string& texte, const std::string& partie) {
+  if (texte.find(partie) != std::string::npos) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "'" << texte << "' does not hold '" << partie << "'";
+}
+
+// The line of code `code` of a payslip, or null.
+inline const LigneBulletin* Ligne(const Bulletin& b, const std::string& code) {
+  for (const auto& l : b.lignes)
+    if (l.sCodeRubrique == code) return &l;
+  return nullptr;
+}
+
+inline const Bulletin* BulletinDe(const ResultatMois& r, Int32 id) {
+  for (const auto& b : r.bulletins)
+    if (b.lIdSalarie == id) return &b;
+  return nullptr;
+}
+
+}  // namespace orvalis::paie
+
+#endif  // ORVALIS_PAIE_PAIE_TEST_OUTILS_H_

@@ -1,0 +1,162 @@
+#include "paie/schema.h"
+
+#include <string>
+#include <vector>
+
+namespace orvalis::paie {
+
+namespace {
+
+// Version 1. Months are keys "yyyymm"; `depuis` is the first month a value is in force.
+constexpr const char* kSchema1 = R"sql(
+CREATE TABLE employeur (
+  id INTEGER PRIMARY KEY CHECK (id = 1),
+  nom TEXT NOT NULL, siret TEXT, adresse TEXT);
+
+-- Statutory values of gRsConstantesFixes, one column of that source a row.
+CREATE TABLE valeurs_fixes (
+  colonne TEXT NOT NULL, depuis TEXT NOT NULL, valeur REAL, libelle TEXT NOT NULL,
+  PRIMARY KEY (colonne, depuis));
+
+CREATE TABLE constantes (
+  IdConstante INTEGER NOT NULL, CodeConstante TEXT NOT NULL, depuis TEXT NOT NULL,
+  Valeur REAL, TauxMontant TEXT, libelle TEXT NOT NULL,
+  PRIMARY KEY (IdConstante, depuis));
+
+CREATE TABLE taux (
+  IdTaux INTEGER NOT NULL, IdOrganisme INTEGER, CodeTaux TEXT NOT NULL, depuis TEXT NOT NULL,
+  PartSalariale REAL, PartPatronale REAL, libelle TEXT NOT NULL,
+  PRIMARY KEY (IdTaux, depuis));
+
+-- The neutral-rate scales of the tax at source, walked in rowid order.
+CREATE TABLE bareme_pas (
+  TypeBareme TEXT NOT NULL, depuis TEXT NOT NULL,
+  BorneInf REAL, BorneSup REAL, TauxNeutre REAL);
+
+-- A total may be capped at a percentage of another (the RAFP base at 20 % of the treatment):
+-- the engine and the store see the capped value.
+CREATE TABLE cumuls (
+  IdCumul INTEGER PRIMARY KEY, CodeCumul TEXT NOT NULL UNIQUE, libelle TEXT NOT NULL,
+  plafond_de TEXT REFERENCES cumuls (CodeCumul), plafond_taux REAL);
+
+-- The preparations run for every employee before the lines, in order.
+CREATE TABLE preparations (ordre INTEGER PRIMARY KEY, methode TEXT NOT NULL);
+
+-- The pay plan. Columns named like a field of SalarieCalculRubrique fill that field.
+CREATE TABLE rubriques (
+  lIdRubrique INTEGER PRIMARY KEY,
+  sCodeRubrique TEXT NOT NULL UNIQUE,
+  sDesignation TEXT NOT NULL,
+  methode TEXT NOT NULL,
+  ordre INTEGER NOT NULL UNIQUE,
+  groupe TEXT NOT NULL CHECK (groupe IN ('BRUT', 'SANTE', 'ACCIDENT', 'RETRAITE', 'FAMILLE',
+    'CHOMAGE', 'CSG', 'AUTRES', 'PAS', 'NET', 'INFO')),
+  nature TEXT NOT NULL CHECK (nature IN ('GAIN', 'RETENUE', 'PATRONAL', 'INFO')),
+  sValeurBase TEXT, lIdValeurBase INTEGER, sCoeffBase TEXT, lIdCoeffBase INTEGER,
+  sValeurTauxSalarial TEXT, lIdValeurTauxSalarial INTEGER,
+  sValeurTauxPatronal TEXT, lIdValeurTauxPatronal INTEGER,
+  lIdTaux INTEGER, lIdOrganisme INTEGER, sTypeRubrique TEXT);
+
+-- Which totals a line feeds: its base or one of its amounts, on a side, with a sign.
+CREATE TABLE rubrique_cumuls (
+  lIdRubrique INTEGER NOT NULL REFERENCES rubriques,
+  CodeCumul TEXT NOT NULL REFERENCES cumuls (CodeCumul),
+  montant TEXT NOT NULL CHECK (montant IN ('BASE', 'SALARIAL', 'PATRONAL')),
+  part TEXT NOT NULL CHECK (part IN ('S', 'P')),
+  signe INTEGER NOT NULL CHECK (signe IN (1, -1)),
+  PRIMARY KEY (lIdRubrique, CodeCumul, montant, part));
+
+CREATE TABLE salaries (
+  lIdSalarie INTEGER PRIMARY KEY, sMatricule TEXT NOT NULL UNIQUE,
+  nom TEXT NOT NULL, prenom TEXT, emploi TEXT, adresse TEXT);
+
+-- The employee's situation: any field of VarCalculSalarie by name, in force from `depuis`.
+CREATE TABLE situations (
+  lIdSalarie INTEGER NOT NULL REFERENCES salaries, depuis TEXT NOT NULL,
+  champ TEXT NOT NULL, valeur,
+  PRIMARY KEY (lIdSalarie, champ, depuis));
+
+CREATE TABLE situations_exceptionnelles (
+  lIdSalarie INTEGER NOT NULL REFERENCES salaries,
+  CodeSituationExceptionnelle TEXT NOT NULL,
+  DateDebutSituationExceptionnelle TEXT NOT NULL,
+  DateFinSituationExceptionnelle TEXT, Quotite REAL);
+
+CREATE TABLE variables (
+  lIdSalarie INTEGER NOT NULL REFERENCES salaries, mois TEXT NOT NULL,
+  IdVariable INTEGER NOT NULL, CodeVariable TEXT NOT NULL, Valeur REAL, Dateeffet TEXT,
+  TauxMontant TEXT,
+  PRIMARY KEY (lIdSalarie, mois, IdVariable));
+
+CREATE TABLE salarie_rubriques (
+  lIdSalarie INTEGER NOT NULL REFERENCES salaries,
+  lIdRubrique INTEGER NOT NULL REFERENCES rubriques,
+  PRIMARY KEY (lIdSalarie, lIdRubrique));
+
+-- Results, written a month at a time.
+CREATE TABLE calculs (
+  mois TEXT PRIMARY KEY, date_calcul TEXT NOT NULL, version TEXT NOT NULL,
+  salaries INTEGER NOT NULL, lignes INTEGER NOT NULL, echecs INTEGER NOT NULL,
+  secondes REAL NOT NULL);
+
+CREATE TABLE bulletins (
+  mois TEXT NOT NULL REFERENCES calculs ON DELETE CASCADE,
+  lIdSalarie INTEGER NOT NULL REFERENCES salaries,
+  sTypeModele TEXT, sCodeCategorie TEXT, dIndiceMajoreM REAL, dBonification REAL,
+  dTauxPoste REAL, dHeuresMois REAL,
+  brut REAL NOT NULL, cotisations_salariales REAL NOT NULL, net_avant_impot REAL NOT NULL,
+  net_imposable REAL NOT NULL, base_pas REAL NOT NULL, taux_pas REAL NOT NULL,
+  pas REAL NOT NULL, net_paye REAL NOT NULL, cotisations_patronales REAL NOT NULL,
+  cout_employeur REAL NOT NULL, echecs INTEGER NOT NULL,
+  PRIMARY KEY (mois, lIdSalarie));
+
+-- One row per line: the amounts and the audit trail (method, designations, what they
+-- resolved to). ok = 0: the engine gave false; the line feeds no total.
+CREATE TABLE lignes (
+  mois TEXT NOT NULL, lIdSalarie INTEGER NOT NULL, ordre INTEGER NOT NULL,
+  lIdRubrique INTEGER NOT NULL, sCodeRubrique TEXT NOT NULL, sDesignation TEXT NOT NULL,
+  groupe TEXT NOT NULL, nature TEXT NOT NULL, methode TEXT NOT NULL, ok INTEGER NOT NULL,
+  dBase REAL, dValeurCoefficient REAL, dTauxSalarial REAL, dMontantSalarial REAL,
+  dTauxPatronal REAL, dMontantPatronal REAL,
+  sValeurBase TEXT, sCoeffBase TEXT, sValeurTauxSalarial TEXT, sValeurTauxPatronal TEXT,
+  PRIMARY KEY (mois, lIdSalarie, ordre),
+  FOREIGN KEY (mois, lIdSalarie) REFERENCES bulletins ON DELETE CASCADE);
+
+CREATE TABLE cumuls_salarie (
+  mois TEXT NOT NULL, lIdSalarie INTEGER NOT NULL, IdCumul INTEGER NOT NULL,
+  CodeCumul TEXT NOT NULL, PartSalariale REAL NOT NULL, PartPatronale REAL NOT NULL,
+  PRIMARY KEY (lIdSalarie, mois, CodeCumul),
+  FOREIGN KEY (mois, lIdSalarie) REFERENCES bulletins ON DELETE CASCADE);
+)sql";
+
+// Step i brings a store from version i to i + 1.
+const std::vector<const char*> kEtapes = {kSchema1};
+
+}  // namespace
+
+void PrepareSchema(Base& base, const std::string& chemin) {
+  int version = 0;
+  {
+    Requete r = base.Prepare("PRAGMA user_version");
+    if (r.Pas()) version = static_cast<int>(r.Entier(0));
+  }
+  if (version > kVersionSchema)
+    throw ErreurMagasin(chemin + ": schema version " + std::to_string(version) +
+                        " is newer than this program's (" + std::to_string(kVersionSchema) + ")");
+  if (version == 0) {
+    Requete r = base.Prepare("SELECT count(*) FROM sqlite_master");
+    if (r.Pas() && r.Entier(0) > 0) throw ErreurMagasin(chemin + ": not an Orvalis store (no schema version)");
+  }
+  if (version == kVersionSchema) return;
+  base.Execute("BEGIN IMMEDIATE");
+  try {
+    for (int v = version; v < kVersionSchema; ++v) base.Execute(kEtapes[static_cast<std::size_t>(v)]);
+    base.Execute("PRAGMA user_version = " + std::to_string(kVersionSchema));
+    base.Execute("COMMIT");
+  } catch (...) {
+    base.Execute("ROLLBACK");
+    throw;
+  }
+}
+
+}  // namespace orvalis::paie
