@@ -2,6 +2,7 @@
 // reached, on the employer's side and on the employee's.
 #include <string>
 
+#include "contributions/contributions_partagees.h"
 #include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
@@ -37,22 +38,18 @@ double PartDuMois(const Remboursement& r) {
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
-                                                           SalarieCalculRubrique& Rubrique,
-                                                           const RsRef& RsVarSalaries,
-                                                           const RsRef& RsVarSalariesHisto,
-                                                           const RsRef& RsSalariesHisto) {
+void RubriqueCnraclRetroactive(const LectureLigne& l) {
+  MoteurCalcul& m = l.m;
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
   const Remboursement patronal =
-      LitRemboursement(*this, RsVarSalaries, "MTCNRRETRO", "MTCNRPTOT", "MTCNRPR");
-  const std::string E = dRechercheDate_Variable(RsVarSalaries, "MTCNRRETRO");
+      LitRemboursement(m, l.RsVarSalaries, "MTCNRRETRO", "MTCNRPTOT", "MTCNRPR");
+  const std::string E = m.dRechercheDate_Variable(l.RsVarSalaries, "MTCNRRETRO");
   const double P = PartDuMois(patronal);
   const double S =
-      PartDuMois(LitRemboursement(*this, RsVarSalaries, "MTCNRSM", "MTCNRSTOT", "MTCNRSR"));
+      PartDuMois(LitRemboursement(m, l.RsVarSalaries, "MTCNRSM", "MTCNRSTOT", "MTCNRSR"));
 
   if (patronal.R != 0 && patronal.T == 0 && patronal.Q == 0) {
     // A sum without a schedule: paid at once, the employee's side by its base and rate.
-    const LectureLigne l{*this,    InfosSalaries,  RsVarSalaries, RsVarSalariesHisto,
-                         Rubrique, RsSalariesHisto};
     Rubrique.dBase = l.Base();
     std::string sType;
     Rubrique.dTauxSalarial = Arrondi(l.TauxSalarial(sType), 2);
@@ -67,8 +64,17 @@ void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& Inf
     Rubrique.dTauxPatronal = 0;
   } else if (!E.empty()) {
     // The repayment is over on both sides but the sum is still entered.
-    MsgBox("Veuillez resaisir la part CNRACL rétroactive salariale dans l'onglet Mutuelles.");
+    m.MsgBox("Veuillez resaisir la part CNRACL rétroactive salariale dans l'onglet Mutuelles.");
   }
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
+                                                           SalarieCalculRubrique& Rubrique,
+                                                           const RsRef& RsVarSalaries,
+                                                           const RsRef& RsVarSalariesHisto,
+                                                           const RsRef& RsSalariesHisto) {
+  RubriqueCnraclRetroactive(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
 }  // namespace orvalis

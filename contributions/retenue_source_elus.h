@@ -4,7 +4,21 @@
 
 #include <optional>
 
+#include "orvalis/MoteurCalcul.h"
+
 namespace orvalis::elus {
+
+// The tranche of the officials' tax scale for a net taxable amount of the period.
+void Bareme(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dNetImposable,
+            double dPeriodesAn, double& dTauxTranche, double& dTrancheBasse,
+            double& dTrancheHaute, double& dConstante);
+
+// A new, empty detail table of the historic withholding (rsRetenueALaSource).
+RsRef NouveauDetailRetenueSource();
+
+// "RETENUE A LA SOURCE": the withholding of the historic method, with its detail table.
+void RetenueALaSource(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
+                      SalarieCalculRubrique& Rubrique, const RsRef& RsVariablesSalaries);
 
 // The coefficient that turns a constant of the tax scale, expressed in the periodicity coded
 // by sEluBaremeImpot (1 monthly, 2 quarterly, 5 half-yearly, 3 yearly), into one of a payment

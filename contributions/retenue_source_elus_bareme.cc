@@ -75,17 +75,16 @@ void MethodeCalculG_Nouv::CalculRetenueSource_DonneesMandat(VarCalculSalarie& In
   dCoefBareme = *dCoef;
 }
 
-void MethodeCalculG_Nouv::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries,
-                                                     double dNetImposable, double dPeriodesAn,
-                                                     double& dTauxTranche, double& dTrancheBasse,
-                                                     double& dTrancheHaute, double& dConstante) {
-  auto Borne = [&](int k) { return ConstanteFixe("EluBorne" + std::to_string(k)); };
-  auto Taux = [&](int k) { return ConstanteFixe("Elutaux" + std::to_string(k)); };
+void elus::Bareme(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dNetImposable,
+                  double dPeriodesAn, double& dTauxTranche, double& dTrancheBasse,
+                  double& dTrancheHaute, double& dConstante) {
+  auto Borne = [&](int k) { return m.ConstanteFixe("EluBorne" + std::to_string(k)); };
+  auto Taux = [&](int k) { return m.ConstanteFixe("Elutaux" + std::to_string(k)); };
 
   int iTranche = 1;
   if (dNetImposable > Div(Borne(6), dPeriodesAn)) {
     // The top tranche has no upper limit: dTrancheHaute stays as given.
-    dTauxTranche = Source(gRsConstantesFixes, "gRsConstantesFixes").Field("Elutaux7").Nombre();
+    dTauxTranche = Source(m.gRsConstantesFixes, "gRsConstantesFixes").Field("Elutaux7").Nombre();
     dTrancheBasse = Borne(6) / 12;
     iTranche = 7;
   } else {
@@ -107,7 +106,15 @@ void MethodeCalculG_Nouv::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSala
 
   const std::optional<std::string> sSuffixe =
       SuffixeConstante(Value(InfosSalaries.sEluBaremeImpot).Nombre());
-  if (sSuffixe) dConstante = ConstanteFixe("EluCste" + std::to_string(iTranche) + *sSuffixe);
+  if (sSuffixe) dConstante = m.ConstanteFixe("EluCste" + std::to_string(iTranche) + *sSuffixe);
+}
+
+void MethodeCalculG_Nouv::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries,
+                                                     double dNetImposable, double dPeriodesAn,
+                                                     double& dTauxTranche, double& dTrancheBasse,
+                                                     double& dTrancheHaute, double& dConstante) {
+  elus::Bareme(*this, InfosSalaries, dNetImposable, dPeriodesAn, dTauxTranche, dTrancheBasse,
+               dTrancheHaute, dConstante);
 }
 
 }  // namespace orvalis

@@ -56,7 +56,7 @@ std::string Numero(const char* sColonne, int n) { return sColonne + std::to_stri
 
 }  // namespace
 
-RsRef MethodeCalculG_Nouv::EnregistreDetailRetenueSource() {
+RsRef elus::NouveauDetailRetenueSource() {
   std::vector<std::string> colonnes;
   for (const char* s : {"RemunerationBrute", "Ircantec_A", "Ircantec_B"})
     for (int n = 0; n < kNbCases; ++n) colonnes.push_back(Numero(s, n));
@@ -70,10 +70,9 @@ RsRef MethodeCalculG_Nouv::EnregistreDetailRetenueSource() {
   return NouveauRecordset(colonnes);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
-                                                             SalarieCalculRubrique& Rubrique,
-                                                             const RsRef& RsVariablesSalaries) {
-  Rubrique.rsRetenueALaSource = EnregistreDetailRetenueSource();
+void elus::RetenueALaSource(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
+                            SalarieCalculRubrique& Rubrique, const RsRef& RsVariablesSalaries) {
+  Rubrique.rsRetenueALaSource = NouveauDetailRetenueSource();
   Recordset& rsDetail = *Rubrique.rsRetenueALaSource;
 
   Cases dBrut{}, dIrcA{}, dIrcB{}, dCsg{}, dNet{}, dFrais{};
@@ -86,35 +85,35 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& I
   const double dMoisPeriode = MoisParPeriode(dPeriodicite);
   // sDateFin plays no part: a mandate ended within the period waits for its end.
   auto FinPeriode = [&] {
-    return elus::FinDePeriode(static_cast<int>(dMoisPeriode), Mois(LireDate(gPeriodeEncours)));
+    return elus::FinDePeriode(static_cast<int>(dMoisPeriode), Mois(LireDate(m.gPeriodeEncours)));
   };
   if (dCodeBareme != 4 && FinPeriode()) {
-    Recordset& rsFixes = Source(gRsConstantesFixes, "gRsConstantesFixes");
+    Recordset& rsFixes = Source(m.gRsConstantesFixes, "gRsConstantesFixes");
     const double dFraisAn = InfosSalaries.dIndiceMajoreM * rsFixes.Field("Point").Nombre() *
                             (rsFixes.Field("EluTxFrais").Nombre() / 100);
     if (dMoisPeriode != 0) dFraisMandat = dFraisAn / (12 / dMoisPeriode);
     dFraisMax = dFraisMandat * 1.5;
 
-    const double dTauxTA = dRechercheValeurTaux("IRCTRA");
-    const double dTauxTB = dRechercheValeurTaux("IRCTRB");
-    const double dTauxCsg = dRechercheValeurTaux("URSDCSG");
-    const double dTauxUrssafTot = dRechercheValeurTaux("URSRGMAL") + dRechercheValeurTaux("URSRGVEU");
-    const double dTauxUrssafPlaf = dRechercheValeurTaux("URSRGVIEP");
-    const double dCoefCsg = dRechercheValeur_Constantes(gRsConstantes, "~TXCSGPROF");
+    const double dTauxTA = m.dRechercheValeurTaux("IRCTRA");
+    const double dTauxTB = m.dRechercheValeurTaux("IRCTRB");
+    const double dTauxCsg = m.dRechercheValeurTaux("URSDCSG");
+    const double dTauxUrssafTot = m.dRechercheValeurTaux("URSRGMAL") + m.dRechercheValeurTaux("URSRGVEU");
+    const double dTauxUrssafPlaf = m.dRechercheValeurTaux("URSRGVIEP");
+    const double dCoefCsg = m.dRechercheValeur_Constantes(m.gRsConstantes, "~TXCSGPROF");
     const double dPlafond = rsFixes.Field("PlafSecu").Nombre() * dMoisPeriode;
 
-    dBrut[0] = dRechercheValeurCumul("BRUT", "S") - dRechercheValeurCumul("BASERAPPEL", "S");
+    dBrut[0] = m.dRechercheValeurCumul("BRUT", "S") - m.dRechercheValeurCumul("BASERAPPEL", "S");
     for (int n = 1; n < kNbCases; ++n) {
       const CaseVariable& v = kVariables[n - 1];
-      dBrut[n] = AuPeriode(dRechercheValeur_Variable(RsVariablesSalaries, v.sCode),
+      dBrut[n] = AuPeriode(m.dRechercheValeur_Variable(RsVariablesSalaries, v.sCode),
                            v.dMoisVariable, dMoisPeriode);
     }
     double dTotal = 0;
     for (double d : dBrut) dTotal += d;
 
     if (InfosSalaries.sCodeModele == "ELUMAIRESP") {
-      const double dUrssafTot = dRechercheValeurCumul("ASSURSTOT", "S") * dTauxUrssafTot / 100;
-      const double dUrssafPlaf = dRechercheValeurCumul("ASSURSPLA", "S") * dTauxUrssafPlaf / 100;
+      const double dUrssafTot = m.dRechercheValeurCumul("ASSURSTOT", "S") * dTauxUrssafTot / 100;
+      const double dUrssafPlaf = m.dRechercheValeurCumul("ASSURSPLA", "S") * dTauxUrssafPlaf / 100;
       dUrssaf = dUrssafTot + dUrssafPlaf;
     }
 
@@ -142,8 +141,8 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& I
     for (double d : dNet) dNetImposable += d;
     dNetImposable -= dFraisRetenus;
     const double dPeriodesAn = dMoisPeriode == 0 ? 0 : 12 / dMoisPeriode;
-    CalculRetenueSource_Bareme(InfosSalaries, dNetImposable, dPeriodesAn, dTauxTranche,
-                               dTrancheBasse, dTrancheHaute, dConstante);
+    Bareme(m, InfosSalaries, dNetImposable, dPeriodesAn, dTauxTranche, dTrancheBasse,
+           dTrancheHaute, dConstante);
     // A scale code out of the list leaves the coefficient at 0.
     dCoefBareme = elus::CoefBareme(dMoisPeriode, dCodeBareme).value_or(0);
 
@@ -182,6 +181,16 @@ void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& I
   Rubrique.dMontantSalarial = dImpot;
   Rubrique.dTauxPatronal = 0;
   Rubrique.dMontantPatronal = 0;
+}
+
+RsRef MethodeCalculG_Nouv::EnregistreDetailRetenueSource() {
+  return elus::NouveauDetailRetenueSource();
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
+                                                             SalarieCalculRubrique& Rubrique,
+                                                             const RsRef& RsVariablesSalaries) {
+  elus::RetenueALaSource(*this, InfosSalaries, Rubrique, RsVariablesSalaries);
 }
 
 }  // namespace orvalis

@@ -2,6 +2,7 @@
 // 2 on the pay above the second, compared month by month ("M") or on the year so far ("A").
 #include <string>
 
+#include "contributions/contributions_partagees.h"
 #include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
@@ -51,43 +52,46 @@ double Montant(double dTaux, double dBase, const std::string& sType) {
 }
 
 // The rates and amounts of both bands once the line's base is set. The employer's amount is
-// taken on the base weighted by its coefficient and rounded, the employee's on the one before.
-void TaxeSurLaBase(const LectureLigne& l) {
+// taken on the base weighted by its coefficient (when the engine applies one) and rounded,
+// the employee's on the one before.
+void TaxeSurLaBase(const LectureLigne& l, bool bCoefficient) {
   SalarieCalculRubrique& r = l.Rubrique;
   std::string sType;
   r.dTauxSalarial = l.TauxSalarial(sType);
   r.dMontantSalarial = Montant(r.dTauxSalarial, r.dBase, sType);
   r.dTauxSalarial = Arrondi(r.dTauxSalarial, 2);
   r.dTauxPatronal = l.TauxPatronal(sType);
-  r.dBase = Arrondi(r.dBase * l.Coefficient(), 2);
+  r.dBase = Arrondi(bCoefficient ? r.dBase * l.Coefficient() : r.dBase, 2);
   r.dMontantPatronal = Montant(r.dTauxPatronal, r.dBase, sType);
   r.dTauxPatronal = Arrondi(r.dTauxPatronal, 2);
 }
 
-// One band: the base of the line from the pay B and the comparison mode, then the tail.
-template <typename Mensuelle, typename Annuelle>
-void TaxeSalaire(const LectureLigne& l, Mensuelle mensuelle, Annuelle annuelle) {
-  const double B = l.Base();
+}  // namespace
+
+void TaxeSalaireBande(const LectureLigne& l, BandeTaxeSalaire bande, double B,
+                      bool bCoefficient) {
   const double K = l.InfosSalaries.dCumul_Brut;
   const std::string& sMode = l.InfosSalaries.sBaseTaxeSalaire;
+  const bool bTaux1 = bande == BandeTaxeSalaire::Taux1;
   // Any other mode leaves the line's base as it stands.
   if (sMode == "M") {
-    l.Rubrique.dBase = mensuelle(B, LimitesDesTranches(l.m, true));
+    const Limites lim = LimitesDesTranches(l.m, true);
+    l.Rubrique.dBase = bTaux1 ? BaseTaux1Mensuelle(B, lim) : BaseTaux2Mensuelle(B, lim);
   } else if (sMode == "A") {
-    l.Rubrique.dBase = annuelle(K, B, LimitesDesTranches(l.m, false));
+    const Limites lim = LimitesDesTranches(l.m, false);
+    l.Rubrique.dBase = bTaux1 ? BaseTaux1Annuelle(K, B, lim) : BaseTaux2Annuelle(K, B, lim);
   }
-  TaxeSurLaBase(l);
+  TaxeSurLaBase(l, bCoefficient);
 }
-
-}  // namespace
 
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& InfosSalaries,
                                                            SalarieCalculRubrique& Rubrique,
                                                            const RsRef& RsVarSalaries,
                                                            const RsRef& RsVarSalariesHisto,
                                                            const RsRef& RsSalariesHisto) {
-  TaxeSalaire({*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto},
-              BaseTaux1Mensuelle, BaseTaux1Annuelle);
+  const LectureLigne l{*this,    InfosSalaries,  RsVarSalaries, RsVarSalariesHisto,
+                       Rubrique, RsSalariesHisto};
+  TaxeSalaireBande(l, BandeTaxeSalaire::Taux1, l.Base(), true);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& InfosSalaries,
@@ -95,8 +99,9 @@ void MethodeCalculG_Nouv::CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& Inf
                                                            const RsRef& RsVarSalaries,
                                                            const RsRef& RsVarSalariesHisto,
                                                            const RsRef& RsSalariesHisto) {
-  TaxeSalaire({*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto},
-              BaseTaux2Mensuelle, BaseTaux2Annuelle);
+  const LectureLigne l{*this,    InfosSalaries,  RsVarSalaries, RsVarSalariesHisto,
+                       Rubrique, RsSalariesHisto};
+  TaxeSalaireBande(l, BandeTaxeSalaire::Taux2, l.Base(), true);
 }
 
 }  // namespace orvalis

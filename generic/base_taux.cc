@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "generic/lecture_ligne.h"
+#include "generic/rubriques_generiques.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
@@ -70,15 +71,45 @@ TypesDesTaux BaseEtDeuxTaux(const LectureLigne& l) {
 
 }  // namespace
 
+void RubriqueBaseTaux(const LectureLigne& l) {
+  const double K = l.BaseFoisCoefficient();
+  DeuxMontants(l, MontantParProduit, K);
+}
+
+void RubriqueBaseTauxChoix(const LectureLigne& l) {
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
+  const TypesDesTaux t = BaseEtDeuxTaux(l);
+  // One amount, on the employee side: the employer rate wins when there is one.
+  if (Rubrique.dTauxPatronal != 0) {
+    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxPatronal, t.sTypeP, Rubrique.dBase);
+    Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxPatronal, 4);
+  } else {
+    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxSalarial, t.sTypeS, Rubrique.dBase);
+    Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
+  }
+  Rubrique.dTauxPatronal = 0;
+}
+
+void RubriqueBaseTauxSmic(const LectureLigne& l) {
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
+  const TypesDesTaux t = BaseEtDeuxTaux(l);
+  const double dSmicHoraire = l.m.ConstanteFixe("SmicHor");
+  if (t.sTypeS == "T") {
+    Rubrique.dMontantSalarial = Rubrique.dBase * dSmicHoraire * Rubrique.dTauxSalarial / 100;
+  } else {
+    Rubrique.dMontantSalarial = Rubrique.dBase * dSmicHoraire * Rubrique.dTauxSalarial;
+  }
+  Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
+  Rubrique.dTauxPatronal = 0;
+}
+
 void MethodeCalculG_Nouv::CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries,
                                                   const RsRef& RsVarSalaries,
                                                   const RsRef& RsVarSalariesHisto,
                                                   SalarieCalculRubrique& Rubrique,
                                                   const RsRef& RsSalariesHisto) {
-  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                       Rubrique, RsSalariesHisto};
-  const double K = l.BaseFoisCoefficient();
-  DeuxMontants(l, MontantParProduit, K);
+  RubriqueBaseTaux(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& InfosSalaries,
@@ -117,17 +148,8 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSa
                                                        const RsRef& RsVarSalariesHisto,
                                                        SalarieCalculRubrique& Rubrique,
                                                        const RsRef& RsSalariesHisto) {
-  const TypesDesTaux t = BaseEtDeuxTaux(
+  RubriqueBaseTauxChoix(
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
-  // One amount, on the employee side: the employer rate wins when there is one.
-  if (Rubrique.dTauxPatronal != 0) {
-    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxPatronal, t.sTypeP, Rubrique.dBase);
-    Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxPatronal, 4);
-  } else {
-    Rubrique.dMontantSalarial = Applique(Rubrique.dTauxSalarial, t.sTypeS, Rubrique.dBase);
-    Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
-  }
-  Rubrique.dTauxPatronal = 0;
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries,
@@ -135,16 +157,8 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSal
                                                       const RsRef& RsVarSalariesHisto,
                                                       SalarieCalculRubrique& Rubrique,
                                                       const RsRef& RsSalariesHisto) {
-  const TypesDesTaux t = BaseEtDeuxTaux(
+  RubriqueBaseTauxSmic(
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
-  const double dSmicHoraire = ConstanteFixe("SmicHor");
-  if (t.sTypeS == "T") {
-    Rubrique.dMontantSalarial = Rubrique.dBase * dSmicHoraire * Rubrique.dTauxSalarial / 100;
-  } else {
-    Rubrique.dMontantSalarial = Rubrique.dBase * dSmicHoraire * Rubrique.dTauxSalarial;
-  }
-  Rubrique.dTauxSalarial = Arrondi(Rubrique.dTauxSalarial, 4);
-  Rubrique.dTauxPatronal = 0;
 }
 
 }  // namespace orvalis

@@ -1,19 +1,18 @@
 // The hourly rate of the employee: from his variables (a percentage of the SMIC or a rate of
 // his own), or else from the month's pay over the month's hours; for the month in progress
 // and for the month before, with a factor for overtime.
+#include "generic/horaire_salarie.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
 namespace orvalis {
 
-void MethodeCalculG_Nouv::CalculTauxHoraireSalarie(const RsRef& RsVar,
-                                                   const std::string& sCodeTauxSmic,
-                                                   const std::string& sCodeTauxHeures,
-                                                   const std::string& sCodeType,
-                                                   double /*dHeures*/, double dCoeffMajoration,
-                                                   double& dValeur, std::string& sType,
-                                                   const std::string& /*sMois*/, bool bMoisPrec,
-                                                   Int16 iNbDecimales) {
+void MoteurCalcul::CalculTauxHoraireSalarie(const RsRef& RsVar, const std::string& sCodeTauxSmic,
+                                            const std::string& sCodeTauxHeures,
+                                            const std::string& sCodeType, double /*dHeures*/,
+                                            double dCoeffMajoration, double& dValeur,
+                                            std::string& sType, const std::string& /*sMois*/,
+                                            bool bMoisPrec, Int16 iNbDecimales) {
   Recordset& rs = Source(RsVar, "RsVarSalaries");
   if (rs.RecordCount() == 0) return;
   rs.MoveFirst();
@@ -40,19 +39,46 @@ void MethodeCalculG_Nouv::CalculTauxHoraireSalarie(const RsRef& RsVar,
   rs.ClearFilter();
 }
 
-void MethodeCalculG_Nouv::CalculTauxHoraireMoisEnCours(double dCoeffMajoration,
-                                                       VarCalculSalarie& InfosSalaries,
-                                                       const RsRef& RsVarSalaries,
-                                                       double& dValeur, std::string& sType) {
-  CalculTauxHoraireSalarie(RsVarSalaries, "TXSMIC", "TXHEURES", "M", 0, dCoeffMajoration, dValeur,
-                           sType, "N", false, 4);
+void TauxHoraireMoisEnCours(MoteurCalcul& m, double dCoeffMajoration,
+                            VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                            double& dValeur, std::string& sType) {
+  m.CalculTauxHoraireSalarie(RsVarSalaries, "TXSMIC", "TXHEURES", "M", 0, dCoeffMajoration,
+                             dValeur, sType, "N", false, 4);
   if (dValeur != 0) return;
-  const double T = InfosSalaries.dMt_IndemniteDifferentielle + dRechercheValeurCumul("BASE", "S") -
-                   dRechercheValeurCumul("BASERAPPEL", "S");
+  const double T = InfosSalaries.dMt_IndemniteDifferentielle +
+                   m.dRechercheValeurCumul("BASE", "S") - m.dRechercheValeurCumul("BASERAPPEL", "S");
   if (InfosSalaries.dHeuresMois == 0) return;
   dValeur = Div(T, InfosSalaries.dHeuresMois * InfosSalaries.iNBJ_Presence_Total / 30) *
             dCoeffMajoration;
   sType = "M";
+}
+
+void TauxHoraireMoisPrec(MoteurCalcul& m, double dCoeffMajoration,
+                         VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalariesHisto,
+                         const RsRef& RsSalariesHisto, double& dValeur, std::string& sType) {
+  m.CalculTauxHoraireSalarie(RsVarSalariesHisto, "TXSMIC", "TXHEURES", "M", 0, dCoeffMajoration,
+                             dValeur, sType, "H", true, 4);
+  if (dValeur != 0) return;
+  auto Historique = [&](const char* sCode) {
+    double d = 0;
+    return m.dRechercheValeurCumulHistorique(InfosSalaries.lIdSalarie, m.gPeriodeEncours, sCode,
+                                             d, "", "S", 0);
+  };
+  const double dBase = Historique("BASE");
+  const double dRappel = Historique("BASERAPPEL");
+  const double dDifferentielle = Historique("INDDIFF");
+  const double dHeures =
+      m.dRechercheHeuresMoisHistorique(RsSalariesHisto, InfosSalaries.lIdSalarie, m.gPeriodeEncours);
+  if (dHeures == 0) return;
+  dValeur = (dBase + dDifferentielle - dRappel) / dHeures * dCoeffMajoration;
+  sType = "M";
+}
+
+void MethodeCalculG_Nouv::CalculTauxHoraireMoisEnCours(double dCoeffMajoration,
+                                                       VarCalculSalarie& InfosSalaries,
+                                                       const RsRef& RsVarSalaries,
+                                                       double& dValeur, std::string& sType) {
+  TauxHoraireMoisEnCours(*this, dCoeffMajoration, InfosSalaries, RsVarSalaries, dValeur, sType);
 }
 
 void MethodeCalculG_Nouv::CalculTauxHoraireMoisPrec(double dCoeffMajoration,
@@ -60,22 +86,8 @@ void MethodeCalculG_Nouv::CalculTauxHoraireMoisPrec(double dCoeffMajoration,
                                                     const RsRef& RsVarSalariesHisto,
                                                     const RsRef& RsSalariesHisto, double& dValeur,
                                                     std::string& sType) {
-  CalculTauxHoraireSalarie(RsVarSalariesHisto, "TXSMIC", "TXHEURES", "M", 0, dCoeffMajoration,
-                           dValeur, sType, "H", true, 4);
-  if (dValeur != 0) return;
-  auto Historique = [&](const char* sCode) {
-    double d = 0;
-    return dRechercheValeurCumulHistorique(InfosSalaries.lIdSalarie, gPeriodeEncours, sCode, d, "",
-                                           "S", 0);
-  };
-  const double dBase = Historique("BASE");
-  const double dRappel = Historique("BASERAPPEL");
-  const double dDifferentielle = Historique("INDDIFF");
-  const double dHeures = dRechercheHeuresMoisHistorique(RsSalariesHisto, InfosSalaries.lIdSalarie,
-                                                        gPeriodeEncours);
-  if (dHeures == 0) return;
-  dValeur = (dBase + dDifferentielle - dRappel) / dHeures * dCoeffMajoration;
-  sType = "M";
+  TauxHoraireMoisPrec(*this, dCoeffMajoration, InfosSalaries, RsVarSalariesHisto,
+                      RsSalariesHisto, dValeur, sType);
 }
 
 }  // namespace orvalis

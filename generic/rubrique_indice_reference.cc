@@ -1,19 +1,19 @@
 // Pay lines on a reference index: the employee's increased index at most the reference
 // takes the first amount, above it the second.
 #include "generic/lecture_ligne.h"
+#include "generic/rubriques_generiques.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
 namespace orvalis {
 
-namespace {
-
 // The two amounts of the fund's rate row named sCode1 (index at most the reference) or
 // sCode2 (above it).
-void IndiceReferenceCAS(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
-                        const RsRef& RsVarSalaries, SalarieCalculRubrique& Rubrique,
-                        const char* sCode1, const char* sCode2) {
-  const double I = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+void RubriqueIndiceReferenceCAS(const LectureLigne& l, const char* sCode1, const char* sCode2) {
+  MoteurCalcul& m = l.m;
+  VarCalculSalarie& InfosSalaries = l.InfosSalaries;
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
+  const double I = l.Base();
   Rubrique.dMontantSalarial = 0;
   Rubrique.dMontantPatronal = 0;
   const std::string sCode = InfosSalaries.dIndiceMajoreM <= I ? sCode1 : sCode2;
@@ -31,15 +31,9 @@ void IndiceReferenceCAS(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
   Rubrique.dTauxPatronal = 0;
 }
 
-}  // namespace
-
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries,
-                                                          const RsRef& RsVarSalaries,
-                                                          const RsRef& RsVarSalariesHisto,
-                                                          SalarieCalculRubrique& Rubrique,
-                                                          const RsRef& RsSalariesHisto) {
-  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                       Rubrique, RsSalariesHisto};
+void RubriqueIndiceReference(const LectureLigne& l) {
+  VarCalculSalarie& InfosSalaries = l.InfosSalaries;
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
   const double I = l.Base();
   const double K = l.Coefficient();
   std::string sType;
@@ -56,17 +50,31 @@ void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& Info
   Rubrique.dMontantPatronal = 0;
 }
 
+void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries,
+                                                          const RsRef& RsVarSalaries,
+                                                          const RsRef& RsVarSalariesHisto,
+                                                          SalarieCalculRubrique& Rubrique,
+                                                          const RsRef& RsSalariesHisto) {
+  RubriqueIndiceReference(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
+}
+
 void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
                                                               const RsRef& RsVarSalaries,
-                                                              const RsRef& /*RsVarSalariesHisto*/,
+                                                              const RsRef& RsVarSalariesHisto,
                                                               SalarieCalculRubrique& Rubrique) {
-  IndiceReferenceCAS(*this, InfosSalaries, RsVarSalaries, Rubrique, "CAS1", "CAS2");
+  const RsRef aucune;
+  RubriqueIndiceReferenceCAS(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, aucune}, "CAS1", "CAS2");
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS_Communal(
     VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-    const RsRef& /*RsVarSalariesHisto*/, SalarieCalculRubrique& Rubrique) {
-  IndiceReferenceCAS(*this, InfosSalaries, RsVarSalaries, Rubrique, "CASC1", "CASC2");
+    const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique) {
+  const RsRef aucune;
+  RubriqueIndiceReferenceCAS(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, aucune}, "CASC1",
+      "CASC2");
 }
 
 }  // namespace orvalis

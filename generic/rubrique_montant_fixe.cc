@@ -1,6 +1,7 @@
 // Pay lines whose "rates" are amounts or day counts: "MONTANT FIXE", "MONTANT FIXE ANNUEL"
 // and the two "BASE PRORATISEE SELON NB JOURS / 30".
 #include "generic/lecture_ligne.h"
+#include "generic/rubriques_generiques.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 
@@ -30,13 +31,9 @@ double Prorata30(const LectureLigne& l) {
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries,
-                                                     const RsRef& RsVarSalaries,
-                                                     const RsRef& RsVarSalariesHisto,
-                                                     SalarieCalculRubrique& Rubrique,
-                                                     const RsRef& RsSalariesHisto) {
-  const double K = MontantsFixes(
-      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
+void RubriqueMontantFixe(const LectureLigne& l) {
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
+  const double K = MontantsFixes(l);
   // With neither amount, the base (times its coefficient, when the line names one) is paid.
   if (Rubrique.dMontantSalarial == 0 && Rubrique.dMontantPatronal == 0) {
     if (!Rubrique.sCoeffBase.empty()) {
@@ -50,13 +47,9 @@ void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSala
   }
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries,
-                                                           const RsRef& RsVarSalaries,
-                                                           const RsRef& RsVarSalariesHisto,
-                                                           SalarieCalculRubrique& Rubrique,
-                                                           const RsRef& RsSalariesHisto) {
-  const double K = MontantsFixes(
-      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
+void RubriqueMontantFixeAnnuel(const LectureLigne& l) {
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
+  const double K = MontantsFixes(l);
   // With neither amount, a twelfth of the yearly base is paid.
   if (Rubrique.dMontantSalarial == 0 && Rubrique.dMontantPatronal == 0) {
     Rubrique.dTauxSalarial = 0;
@@ -70,12 +63,36 @@ void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& Inf
   }
 }
 
+void RubriqueBaseProrata30(const LectureLigne& l) { l.Rubrique.dMontantSalarial = Prorata30(l); }
+
+void RubriqueBaseProrata30ADeduire(const LectureLigne& l) {
+  l.Rubrique.dMontantSalarial = -Prorata30(l);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries,
+                                                     const RsRef& RsVarSalaries,
+                                                     const RsRef& RsVarSalariesHisto,
+                                                     SalarieCalculRubrique& Rubrique,
+                                                     const RsRef& RsSalariesHisto) {
+  RubriqueMontantFixe(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries,
+                                                           const RsRef& RsVarSalaries,
+                                                           const RsRef& RsVarSalariesHisto,
+                                                           SalarieCalculRubrique& Rubrique,
+                                                           const RsRef& RsSalariesHisto) {
+  RubriqueMontantFixeAnnuel(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
+}
+
 void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries,
                                                        const RsRef& RsVarSalaries,
                                                        const RsRef& RsVarSalariesHisto,
                                                        SalarieCalculRubrique& Rubrique,
                                                        const RsRef& RsSalariesHisto) {
-  Rubrique.dMontantSalarial = Prorata30(
+  RubriqueBaseProrata30(
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
@@ -84,7 +101,7 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie&
                                                                const RsRef& RsVarSalariesHisto,
                                                                SalarieCalculRubrique& Rubrique,
                                                                const RsRef& RsSalariesHisto) {
-  Rubrique.dMontantSalarial = -Prorata30(
+  RubriqueBaseProrata30ADeduire(
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 

@@ -35,16 +35,16 @@ double TotalRachatCet(Contexte& c, const LigneTaux&) {
 double RafpCetSalarial(Contexte& c, const LigneTaux&) { return 100 - TauxCsgProfessionnel(c); }
 
 double SalaireJournalierOuvre(Contexte& c, const LigneTaux&) {
-  return c.m.dArbitrageJours(c.InfosSalaries, c.RsVarSalaries, c.Rubrique);
+  return Courant(c).dArbitrageJours(c.InfosSalaries, c.RsVarSalaries, c.Rubrique);
 }
 
 // The rate of the tax at source, as the host stores it: a fraction, with no kind.
 double TauxPAS(Contexte& c, const LigneTaux&) {
-  return c.m.CalculPrelevementALaSource_Taux(c.InfosSalaries);
+  return Courant(c).CalculPrelevementALaSource_Taux(c.InfosSalaries);
 }
 
 double NetAPayerAvantPAS(Contexte& c, const LigneTaux&) {
-  return c.m.dNetAPayerAvantPAS(c.InfosSalaries);
+  return Courant(c).dNetAPayerAvantPAS(c.InfosSalaries);
 }
 
 // The allowance of the tax base, and the case that gave it on the line's label. The label is

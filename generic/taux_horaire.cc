@@ -1,6 +1,7 @@
 // Rate designations of the employee's hourly rate: plain, increased by a percentage, of the
 // month before, and multiplied by a constant of the line.
 
+#include "generic/horaire_salarie.h"
 #include "generic/taux_regles.h"
 #include "orvalis/ModOutilsSpec.h"
 
@@ -38,14 +39,14 @@ double HoraireMajoreConstante(Contexte& c, const LigneTaux&) {
 
 double HoraireMajore(Contexte& c, const LigneTaux& l) {
   double dTaux = 0;
-  c.m.CalculTauxHoraireMoisEnCours(l.dArg, c.InfosSalaries, c.RsVarSalaries, dTaux, c.sType);
+  TauxHoraireMoisEnCours(c.m, l.dArg, c.InfosSalaries, c.RsVarSalaries, dTaux, c.sType);
   return dTaux;
 }
 
 double HoraireMoisPrec(Contexte& c, const LigneTaux& l) {
   double dTaux = 0;
-  c.m.CalculTauxHoraireMoisPrec(l.dArg, c.InfosSalaries, c.RsVarSalariesHisto, c.RsSalariesHisto,
-                                dTaux, c.sType);
+  TauxHoraireMoisPrec(c.m, l.dArg, c.InfosSalaries, c.RsVarSalariesHisto, c.RsSalariesHisto,
+                      dTaux, c.sType);
   return dTaux;
 }
 

@@ -6,7 +6,7 @@
 
 namespace orvalis {
 
-double MethodeCalculG_Nouv::dRechercheTauxPatronal(const std::string& sCode) {
+double MoteurCalcul::dRechercheTauxPatronal(const std::string& sCode) {
   Recordset& rs = Source(gRsTaux, "gRsTaux");
   if (rs.RecordCount() == 0) return 0;
   rs.MoveFirst();
@@ -17,7 +17,7 @@ double MethodeCalculG_Nouv::dRechercheTauxPatronal(const std::string& sCode) {
   return dTaux;
 }
 
-bool MethodeCalculG_Nouv::bTauxCsgProfessionnel(double& dTaux) {
+bool MoteurCalcul::bTauxCsgProfessionnel(double& dTaux) {
   const double dCoefficient = dRechercheValeur_Constantes(gRsConstantes, "~TXCSGPROF");
   dTaux = dCoefficient * (dRechercheValeurTaux("URSDCSG") + dRechercheValeurTaux("URSCSG") +
                           dRechercheValeurTaux("URSRDS"));

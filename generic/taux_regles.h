@@ -18,7 +18,8 @@ namespace orvalis::taux {
 
 // What a rule may read and write for one resolution.
 struct Contexte {
-  MethodeCalculG_Nouv& m;
+  MoteurCalcul& m;
+  MethodeCalculG_Nouv* courant;     // the current engine, null for the historic one
   VarCalculSalarie& InfosSalaries;
   const RsRef& RsVarSalaries;
   const RsRef& RsVarSalariesHisto;  // null on the employer side
@@ -56,8 +57,17 @@ std::vector<std::span<const LigneTaux>> TablesPatronales();
 const LigneTaux* TrouveTaux(const std::vector<std::span<const LigneTaux>>& tables,
                             const std::string& nom, std::span<const std::string_view> exclus = {});
 
+// The current engine behind a context; a fault when the caller is another engine (the rows
+// that need it are unknown to the historic resolvers).
+MethodeCalculG_Nouv& Courant(Contexte& c);
+
 // Runs the row's rule, then writes the row's kind when it has one.
 double Applique(const LigneTaux& l, Contexte& c);
+
+// A whole resolution on the side of the context: the kind cleared, the line's designation
+// of that side looked up among the tables (less exclus) and run; 0 when none matches.
+double Resoud(const std::vector<std::span<const LigneTaux>>& tables, Contexte& c,
+              std::span<const std::string_view> exclus = {});
 
 // Helpers shared by the rules.
 bool ModeleIndiciaire(const VarCalculSalarie& InfosSalaries);  // "INDTIT" or "INDNTI"

@@ -34,6 +34,20 @@ bool ModeleIndiciaire(const VarCalculSalarie& InfosSalaries) {
   return InfosSalaries.sTypeModele == "INDTIT" || InfosSalaries.sTypeModele == "INDNTI";
 }
 
+double Resoud(const std::vector<std::span<const LigneTaux>>& tables, Contexte& c,
+              std::span<const std::string_view> exclus) {
+  c.sType.clear();
+  const std::string sNom =
+      c.bPatronal ? c.Rubrique.sValeurTauxPatronal : c.Rubrique.sValeurTauxSalarial;
+  const LigneTaux* l = TrouveTaux(tables, sNom, exclus);
+  return l == nullptr ? 0.0 : Applique(*l, c);
+}
+
+MethodeCalculG_Nouv& Courant(Contexte& c) {
+  if (c.courant == nullptr) Faute("rate of the current engine only");
+  return *c.courant;
+}
+
 double MajoreParConstante(Contexte& c, double dValeur) {
   double dConstante = 0;
   std::string sTypeConstante;
@@ -45,18 +59,47 @@ double MajoreParConstante(Contexte& c, double dValeur) {
 
 }  // namespace taux
 
+double MethodeCalculG_Nouv::BaseDeLigne(VarCalculSalarie& InfosSalaries,
+                                        const RsRef& RsVarSalaries,
+                                        SalarieCalculRubrique& Rubrique) {
+  return RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+}
+
+double MethodeCalculG_Nouv::CoefficientDeLigne(VarCalculSalarie& InfosSalaries,
+                                               const RsRef& RsVarSalaries, Int32 lIdCoeffBase,
+                                               const std::string& sCoeffBase,
+                                               SalarieCalculRubrique& Rubrique) {
+  return RechercheValeurCoefficient(InfosSalaries, RsVarSalaries, lIdCoeffBase, sCoeffBase,
+                                    Rubrique);
+}
+
+double MethodeCalculG_Nouv::TauxSalarialDeLigne(VarCalculSalarie& InfosSalaries,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& RsVarSalariesHisto,
+                                                SalarieCalculRubrique& Rubrique,
+                                                std::string& sType,
+                                                const RsRef& RsSalariesHisto) {
+  return RechercheValeurTauxSalarial(InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique,
+                                     sType, RsSalariesHisto);
+}
+
+// The generic lines pass an empty designation.
+double MethodeCalculG_Nouv::TauxPatronalDeLigne(VarCalculSalarie& InfosSalaries,
+                                                const RsRef& RsVarSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                std::string& sType) {
+  return RechercheValeurTauxPatronal(InfosSalaries, RsVarSalaries, Rubrique, sType, "");
+}
+
 double MethodeCalculG_Nouv::RechercheValeurTauxSalarial(VarCalculSalarie& InfosSalaries,
                                                         const RsRef& RsVarSalaries,
                                                         const RsRef& RsVarSalariesHisto,
                                                         SalarieCalculRubrique& Rubrique,
                                                         std::string& sType,
                                                         const RsRef& RsSalariesHisto) {
-  sType.clear();
-  const std::string sNom = Rubrique.sValeurTauxSalarial;
-  taux::Contexte c{*this,   InfosSalaries, RsVarSalaries, RsVarSalariesHisto, RsSalariesHisto,
+  taux::Contexte c{*this, this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, RsSalariesHisto,
                    Rubrique, Rubrique.lIdValeurTauxSalarial, false, sType};
-  const taux::LigneTaux* l = taux::TrouveTaux(taux::TablesSalariales(), sNom);
-  return l == nullptr ? 0.0 : taux::Applique(*l, c);
+  return taux::Resoud(taux::TablesSalariales(), c);
 }
 
 double MethodeCalculG_Nouv::RechercheValeurTauxPatronal(VarCalculSalarie& InfosSalaries,
@@ -64,13 +107,10 @@ double MethodeCalculG_Nouv::RechercheValeurTauxPatronal(VarCalculSalarie& InfosS
                                                         SalarieCalculRubrique& Rubrique,
                                                         std::string& sType,
                                                         const std::string& /*sDesignation*/) {
-  sType.clear();
-  const std::string sNom = Rubrique.sValeurTauxPatronal;
   const RsRef aucune;
-  taux::Contexte c{*this,   InfosSalaries, RsVarSalaries, aucune, aucune,
+  taux::Contexte c{*this, this, InfosSalaries, RsVarSalaries, aucune, aucune,
                    Rubrique, Rubrique.lIdValeurTauxPatronal, true, sType};
-  const taux::LigneTaux* l = taux::TrouveTaux(taux::TablesPatronales(), sNom);
-  return l == nullptr ? 0.0 : taux::Applique(*l, c);
+  return taux::Resoud(taux::TablesPatronales(), c);
 }
 
 }  // namespace orvalis

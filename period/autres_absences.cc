@@ -5,6 +5,7 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "period/periode_outils.h"
+#include "period/situation_jours.h"
 
 namespace orvalis {
 
@@ -116,6 +117,11 @@ void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences_NouvelleGestion(VarCalc
   });
 }
 
+void periode::ImputeAutreAbsence(VarCalculSalarie& s, const std::string& sCode, Int16 iJours) {
+  const Regle* regle = RegleDe(sCode);
+  if (regle != nullptr) Impute(s, *regle, iJours, [] { return 0.0; });
+}
+
 void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences(VarCalculSalarie& s) {
   auto situation = [&](const std::string& sCode, const std::string& sDebut,
                        const std::string& sFin) {
@@ -124,7 +130,7 @@ void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences(VarCalculSalarie& s) {
     if (!bConnu) return;
     Int16 iIATA = 0, iIATN = 0, iINTA = 0, iINTN = 0;
     CalculNombreJour_Situation(sCode, sDebut, sFin, s, iIATA, iIATN, iINTA, iINTN);
-    Impute(s, *RegleDe(sCode), iIATA + iIATN + iINTA + iINTN, [] { return 0.0; });
+    periode::ImputeAutreAbsence(s, sCode, iIATA + iIATN + iINTA + iINTN);
   };
   situation(s.sSituation1, s.sDateDebutSituation1, s.sDatefinSituation1);
   situation(s.sSituation2, s.sDateDebutSituation2, s.sDatefinSituation2);

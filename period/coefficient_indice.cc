@@ -8,14 +8,12 @@ namespace orvalis {
 using periode::JourDe;
 using periode::MemeMois;
 
-void MethodeCalculG_Nouv::CalculRechercheJourDebutEtJourFin(VarCalculSalarie& InfosSalaries,
-                                                            const std::string& sPeriodeEnCours,
-                                                            std::string& sDernierJourMois,
-                                                            Int16& iJourDeb, Int16& iJourFin) {
+void periode::JoursDebutEtFin(const VarCalculSalarie& InfosSalaries,
+                              const std::string& sPeriodeEnCours, bool bCalendaire,
+                              std::string& sDernierJourMois, Int16& iJourDeb, Int16& iJourFin) {
   const Date dPeriode = LireDate(sPeriodeEnCours);
   const Date dDernier = AjouteJours(AjouteMois(dPeriode, 1), -1);
   sDernierJourMois = TexteDate(dDernier);
-  const bool bCalendaire = InfosSalaries.bCalculPayeEnJoursCalendaires;
 
   const Date dDebut = LireDate(InfosSalaries.sDateDebut);
   iJourDeb = DiffJours(dDebut, dPeriode) > 0 ? Int16(1) : JourDe(dDebut);
@@ -41,6 +39,15 @@ void MethodeCalculG_Nouv::CalculRechercheJourDebutEtJourFin(VarCalculSalarie& In
     if (iJourDeb > Jour(dDernier)) iJourDeb = 30;
     if (iJourFin >= Jour(dDernier) || InfosSalaries.sDateFin.empty()) iJourFin = 30;
   }
+}
+
+void MethodeCalculG_Nouv::CalculRechercheJourDebutEtJourFin(VarCalculSalarie& InfosSalaries,
+                                                            const std::string& sPeriodeEnCours,
+                                                            std::string& sDernierJourMois,
+                                                            Int16& iJourDeb, Int16& iJourFin) {
+  periode::JoursDebutEtFin(InfosSalaries, sPeriodeEnCours,
+                           InfosSalaries.bCalculPayeEnJoursCalendaires, sDernierJourMois,
+                           iJourDeb, iJourFin);
 }
 
 void MethodeCalculG_Nouv::CalculCoefficientUtilisationIndice(VarCalculSalarie& InfosSalaries) {
@@ -105,8 +112,7 @@ void MethodeCalculG_Nouv::CalculCoefficientUtilisationIndice(VarCalculSalarie& I
   InfosSalaries.dCoefficient_INTN = iINTN / 30.0;
 }
 
-void MethodeCalculG_Nouv::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
-                                                               const std::string& sPeriode) {
+void periode::CoefficientsTauxElus(VarCalculSalarie& InfosSalaries, const std::string& sPeriode) {
   if (InfosSalaries.sTypeModele != "ELUS") return;
   if (InfosSalaries.sDateChangementTauxElus.empty())
     InfosSalaries.sDateChangementTauxElus = InfosSalaries.sDateDebut;
@@ -130,6 +136,11 @@ void MethodeCalculG_Nouv::CalculCoefficientUtilisationTauxElus(VarCalculSalarie&
   }
   InfosSalaries.dCoefficient_IAncien = iAncien / 30.0;
   InfosSalaries.dCoefficient_INouveau = iNouveau / 30.0;
+}
+
+void MethodeCalculG_Nouv::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
+                                                               const std::string& sPeriode) {
+  periode::CoefficientsTauxElus(InfosSalaries, sPeriode);
 }
 
 }  // namespace orvalis

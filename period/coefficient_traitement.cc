@@ -3,6 +3,7 @@
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "period/periode_outils.h"
+#include "period/presence_outils.h"
 
 namespace orvalis {
 
@@ -53,43 +54,52 @@ double CalculCoefficientAbsencesTpt(MethodeCalculG_Nouv& m, VarCalculSalarie& In
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculCoefficientTraitementEnFonctionOccupationPoste(
-    VarCalculSalarie& InfosSalaries, bool bMoisEnCours, double& dCoefficientTraitement,
-    double& dCoefficientTraitementTNCAvantTP, double& dCoefficientTraitementSiTNC) {
+void periode::CoefficientOccupationPoste(const ValeursPoste& v,
+                                         const std::function<double(double)>& corrigeTpt,
+                                         double& dCoefficientTraitement,
+                                         double& dCoefficientTraitementTNCAvantTP,
+                                         double& dCoefficientTraitementSiTNC) {
   dCoefficientTraitement = 0;
   dCoefficientTraitementTNCAvantTP = 0;
   dCoefficientTraitementSiTNC = 0;
+  const double dDuree = v.dDureeLegale > 0 ? v.dDureeLegale : 35;
 
-  const VarCalculSalarie& s = InfosSalaries;
-  const std::string& sOccupation = bMoisEnCours ? s.sOccupationPoste : s.sOccupationPosteMoisPrec;
-  const double dTauxPoste = bMoisEnCours ? s.dTauxPoste : s.dTauxPosteMoisPrec;
-  const double dTauxPosteTNC = bMoisEnCours ? s.dTauxPosteTNC : s.dTauxPosteTNCMoisPrec;
-  const double dHeuresHebdo = bMoisEnCours ? s.dHeuresHebdo : s.dHeuresHebdoMoisPrec;
-  const double dHeuresMois = bMoisEnCours ? s.dHeuresMois : s.dHeuresMensMoisPrec;
-  const double dHeuresOrigineTNC =
-      bMoisEnCours ? s.dHeuresHebdoOrigineTNC : s.dHeuresHebdoOrigineTNCMoisPrec;
-  const Int16 iTypeCalculHeure = bMoisEnCours ? s.iTypeCalculHeure : s.iTypeCalculHeureMoisPrec;
-  const double dDureeLegale = bMoisEnCours ? s.dDureeHebdoLegale : s.dDureeHebdoLegaleMoisPrec;
-  const double dDuree = dDureeLegale > 0 ? dDureeLegale : 35;
-
-  if (sOccupation == "P") {
-    dCoefficientTraitement = Quotite(dTauxPoste);
-    dCoefficientTraitement =
-        CalculCoefficientAbsencesTpt(*this, InfosSalaries, dCoefficientTraitement);
-  } else if (sOccupation == "T") {
-    dCoefficientTraitementSiTNC = Quotite(dTauxPosteTNC);
-    dCoefficientTraitementTNCAvantTP = dHeuresOrigineTNC / dDuree;
+  if (v.sOccupation == "P") {
+    dCoefficientTraitement = corrigeTpt(Quotite(v.dTauxPoste));
+  } else if (v.sOccupation == "T") {
+    dCoefficientTraitementSiTNC = Quotite(v.dTauxPosteTNC);
+    dCoefficientTraitementTNCAvantTP = v.dHeuresOrigineTNC / dDuree;
     dCoefficientTraitement = dCoefficientTraitementTNCAvantTP * dCoefficientTraitementSiTNC;
     // Only the part-time share is corrected: the product keeps the uncorrected value.
-    dCoefficientTraitementSiTNC =
-        CalculCoefficientAbsencesTpt(*this, InfosSalaries, dCoefficientTraitementSiTNC);
-  } else if (iTypeCalculHeure == 1) {
-    dCoefficientTraitement = dHeuresHebdo / dDuree;
-  } else if (dDureeLegale > 0) {
-    dCoefficientTraitement = Div(dHeuresMois, Arrondi(dDureeLegale * 151.67 / 35, 2));
+    dCoefficientTraitementSiTNC = corrigeTpt(dCoefficientTraitementSiTNC);
+  } else if (v.iTypeCalculHeure == 1) {
+    dCoefficientTraitement = v.dHeuresHebdo / dDuree;
+  } else if (v.dDureeLegale > 0) {
+    dCoefficientTraitement = Div(v.dHeuresMois, Arrondi(v.dDureeLegale * 151.67 / 35, 2));
   } else {
-    dCoefficientTraitement = dHeuresMois / 151.67;
+    dCoefficientTraitement = v.dHeuresMois / 151.67;
   }
+}
+
+void MethodeCalculG_Nouv::CalculCoefficientTraitementEnFonctionOccupationPoste(
+    VarCalculSalarie& InfosSalaries, bool bMoisEnCours, double& dCoefficientTraitement,
+    double& dCoefficientTraitementTNCAvantTP, double& dCoefficientTraitementSiTNC) {
+  const VarCalculSalarie& s = InfosSalaries;
+  const periode::ValeursPoste v =
+      bMoisEnCours
+          ? periode::ValeursPosteDuMois(s)
+          : periode::ValeursPoste{s.sOccupationPosteMoisPrec, s.dTauxPosteMoisPrec,
+                                  s.dTauxPosteTNCMoisPrec,    s.dHeuresHebdoMoisPrec,
+                                  s.dHeuresMensMoisPrec,      s.dHeuresHebdoOrigineTNCMoisPrec,
+                                  s.iTypeCalculHeureMoisPrec, s.dDureeHebdoLegaleMoisPrec};
+  periode::CoefficientOccupationPoste(
+      v, [&](double d) { return CalculCoefficientAbsencesTpt(*this, InfosSalaries, d); },
+      dCoefficientTraitement, dCoefficientTraitementTNCAvantTP, dCoefficientTraitementSiTNC);
+}
+
+void periode::CoefficientTraitementElus(VarCalculSalarie& s) {
+  s.dCoefficient_Traitement = s.dTauxMaire / 100;
+  if (s.dTauxEPCI > 0) s.dCoefficient_Traitement = s.dTauxEPCI * s.dCoefficient_Traitement / 100;
 }
 
 void MethodeCalculG_Nouv::CalculCoefficientTraitement(VarCalculSalarie& InfosSalaries) {
@@ -104,10 +114,7 @@ void MethodeCalculG_Nouv::CalculCoefficientTraitement(VarCalculSalarie& InfosSal
         InfosSalaries.dCoefficientTraitementTNCAvantTPMoisPrec,
         InfosSalaries.dCoefficientTraitementTPSiTNCMoisPrec);
   } else if (sModele == "ELUS") {
-    InfosSalaries.dCoefficient_Traitement = InfosSalaries.dTauxMaire / 100;
-    if (InfosSalaries.dTauxEPCI > 0)
-      InfosSalaries.dCoefficient_Traitement =
-          InfosSalaries.dTauxEPCI * InfosSalaries.dCoefficient_Traitement / 100;
+    periode::CoefficientTraitementElus(InfosSalaries);
   } else {
     InfosSalaries.dCoefficient_TraitementTA = 0;
     InfosSalaries.dCoefficient_TraitementTN = 0;

@@ -21,6 +21,41 @@ inline bool MemeMois(Date a, Date b) { return Annee(a) == Annee(b) && Mois(a) ==
 inline Int16 JourDe(const std::string& sDate) { return Int16(Jour(LireDate(sDate))); }
 inline Int16 JourDe(Date d) { return Int16(Jour(d)); }
 
+// The values of the post that make the treatment coefficient, of one month.
+struct ValeursPoste {
+  std::string sOccupation;  // "P" part-time, "T" non-full-time post, or other
+  double dTauxPoste;
+  double dTauxPosteTNC;
+  double dHeuresHebdo;
+  double dHeuresMois;
+  double dHeuresOrigineTNC;
+  Int16 iTypeCalculHeure;
+  double dDureeLegale;
+};
+
+inline ValeursPoste ValeursPosteDuMois(const VarCalculSalarie& s) {
+  return {s.sOccupationPoste, s.dTauxPoste,    s.dTauxPosteTNC,          s.dHeuresHebdo,
+          s.dHeuresMois,      s.dHeuresHebdoOrigineTNC, s.iTypeCalculHeure, s.dDureeHebdoLegale};
+}
+
+// The treatment coefficient of a post, and for a post "T" its two factors; corrigeTpt
+// corrects a part-time share for the days of therapeutic part-time.
+void CoefficientOccupationPoste(const ValeursPoste& v,
+                                const std::function<double(double)>& corrigeTpt,
+                                double& dCoefficientTraitement,
+                                double& dCoefficientTraitementTNCAvantTP,
+                                double& dCoefficientTraitementSiTNC);
+
+// The first and last paid days of the employee in the month sPeriodeEnCours, on 30 days or,
+// with bCalendaire, on the calendar; and the text of the month's last day.
+void JoursDebutEtFin(const VarCalculSalarie& InfosSalaries, const std::string& sPeriodeEnCours,
+                     bool bCalendaire, std::string& sDernierJourMois, Int16& iJourDeb,
+                     Int16& iJourFin);
+
+// An elected official's month split at his change of rate, on 30 days, into
+// dCoefficient_IAncien and dCoefficient_INouveau; nothing for another model.
+void CoefficientsTauxElus(VarCalculSalarie& InfosSalaries, const std::string& sPeriode);
+
 // "CodeSituationExceptionnelle = 'A' OR CodeSituationExceptionnelle = 'B' ...".
 std::string FiltreCodes(const std::vector<std::string>& codes);
 

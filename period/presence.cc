@@ -1,6 +1,7 @@
 // Days of presence of the pay month by quadrant, and real calendar days of employment.
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "period/periode_outils.h"
+#include "period/presence_outils.h"
 
 namespace orvalis {
 
@@ -27,30 +28,19 @@ void MethodeCalculG_Nouv::CalculNombreJourPresenceMois(VarCalculSalarie& InfosSa
                                                        Int16& iNbj_IATA, Int16& iNbj_IATN,
                                                        Int16& iNbj_INTA, Int16& iNbj_INTN) {
   const VarCalculSalarie& s = InfosSalaries;
-  std::string sDernierJourMois;
-  Int16 iJourDeb, iJourFin;
-  CalculRechercheJourDebutEtJourFin(InfosSalaries, sPeriodeEnCours, sDernierJourMois, iJourDeb,
-                                    iJourFin);
-  const Date dDernier = LireDate(sDernierJourMois);
-  const Date dDebut = LireDate(s.sDateDebut);
-
-  const bool bHorsMois =
-      (!s.sDateFin.empty() && DiffJours(LireDate(s.sDateFin), LireDate(sPeriodeEnCours)) > 0) ||
-      DiffJours(dDebut, dDernier) < 0;
-  if (bHorsMois) {
+  const periode::MoisPresence mp =
+      periode::MoisDePresence(s, sPeriodeEnCours, s.bCalculPayeEnJoursCalendaires);
+  const Int16 iJourDeb = mp.iJourDeb;
+  const Int16 iJourFin = mp.iJourFin;
+  const Date dDernier = mp.dDernier;
+  const Date dDebut = mp.dDebut;
+  if (mp.bHorsMois) {
     iNbj_IATA = 0;
     iNbj_IATN = 0;
     iNbj_INTA = 0;
     iNbj_INTN = 0;
   } else if (s.sTypeModele == "ELUS") {
-    if (s.dCoefficient_IAncien > 0) {
-      const Int16 jC = JourDe(s.sDateChangementTauxElus);
-      iNbj_IATN = jC - iJourDeb;
-      iNbj_INTN = iJourFin - jC + 1;
-    } else {
-      iNbj_IATN = 0;
-      iNbj_INTN = iJourFin - iJourDeb + 1;
-    }
+    periode::PresenceElus(s, mp, iNbj_IATN, iNbj_INTN);
   } else {
     const bool bIATA = s.dCoefficient_IATA > 0;
     const bool bIATN = s.dCoefficient_IATN > 0;
@@ -98,6 +88,31 @@ void MethodeCalculG_Nouv::CalculNombreJourPresenceMois(VarCalculSalarie& InfosSa
     iNbj_INTA = 0;
     iNbj_INTN =
         s.dNB_Jours_Max_Decalage_Mois == -1 ? Int16(30) : CInt(s.dNB_Jours_Max_Decalage_Mois);
+  }
+}
+
+periode::MoisPresence periode::MoisDePresence(const VarCalculSalarie& s,
+                                              const std::string& sPeriode, bool bCalendaire) {
+  std::string sDernierJourMois;
+  MoisPresence mp{};
+  JoursDebutEtFin(s, sPeriode, bCalendaire, sDernierJourMois, mp.iJourDeb, mp.iJourFin);
+  mp.dDernier = LireDate(sDernierJourMois);
+  mp.dDebut = LireDate(s.sDateDebut);
+  mp.bHorsMois =
+      (!s.sDateFin.empty() && DiffJours(LireDate(s.sDateFin), LireDate(sPeriode)) > 0) ||
+      DiffJours(mp.dDebut, mp.dDernier) < 0;
+  return mp;
+}
+
+void periode::PresenceElus(const VarCalculSalarie& s, const MoisPresence& mp, Int16& iAvant,
+                           Int16& iApres) {
+  if (s.dCoefficient_IAncien > 0) {
+    const Int16 jC = JourDe(s.sDateChangementTauxElus);
+    iAvant = jC - mp.iJourDeb;
+    iApres = mp.iJourFin - jC + 1;
+  } else {
+    iAvant = 0;
+    iApres = mp.iJourFin - mp.iJourDeb + 1;
   }
 }
 

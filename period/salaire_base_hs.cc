@@ -5,13 +5,14 @@
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
+#include "period/salaire_base_hs.h"
 
 namespace orvalis {
 
 namespace {
 
 // A statutory value of the month that may be left null or empty: 0 then.
-double ValeurFixeOuZero(MethodeCalculG_Nouv& m, const char* sChamp) {
+double ValeurFixeOuZero(MoteurCalcul& m, const char* sChamp) {
   const Value v = Source(m.gRsConstantesFixes, "gRsConstantesFixes").Field(sChamp);
   if (v.EstNull() || (v.EstTexte() && v.Chaine().empty())) return 0;
   return v.Nombre();
@@ -19,36 +20,40 @@ double ValeurFixeOuZero(MethodeCalculG_Nouv& m, const char* sChamp) {
 
 }  // namespace
 
-double MethodeCalculG_Nouv::CalculSalaireBaseHS_Periode(VarCalculSalarie& InfosSalaries,
-                                                        double dIndice, const std::string& sType) {
+double SalaireBaseHSPeriode(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dIndice,
+                            const std::string& sType, bool bPlancherSmic) {
   const bool bAncien = sType == "ANCIEN";
 
   double dIndiceMinimum = 0;
   if (bAncien) {
-    dRechercheIndMinHistorique(dIndiceMinimum, gPeriodeEncours, "-1");
+    m.dRechercheIndMinHistorique(dIndiceMinimum, m.gPeriodeEncours, "-1");
   } else {
-    dIndiceMinimum = ValeurFixeOuZero(*this, "IndMinRemuneration");
+    dIndiceMinimum = ValeurFixeOuZero(m, "IndMinRemuneration");
   }
   const Int16 iIndice = CInt(std::max(dIndiceMinimum, dIndice) + InfosSalaries.dBonification);
 
   double dPoint = 0, dSmicHoraire = 0, dHeuresMois = 0;
   if (bAncien) {
-    dRecherchePointHistorique(dPoint, gPeriodeEncours, "-1");
-    if (dPoint == 0) dPoint = ConstanteFixe("Point");
-    dRechercheSmicHistorique(dSmicHoraire, dHeuresMois);
+    m.dRecherchePointHistorique(dPoint, m.gPeriodeEncours, "-1");
+    if (dPoint == 0) dPoint = m.ConstanteFixe("Point");
+    if (bPlancherSmic) m.dRechercheSmicHistorique(dSmicHoraire, dHeuresMois);
   } else {
-    dPoint = ConstanteFixe("Point");
-    dSmicHoraire = ConstanteFixe("SmicHor");
-    dHeuresMois = ConstanteFixe("HrsMois");
+    dPoint = m.ConstanteFixe("Point");
+    if (bPlancherSmic) {
+      dSmicHoraire = m.ConstanteFixe("SmicHor");
+      dHeuresMois = m.ConstanteFixe("HrsMois");
+    }
   }
-  const double dSmicAnnuel = Arrondi(dSmicHoraire * Arrondi(dHeuresMois * 12, 2), 2);
 
   double dTraitement = Arrondi(iIndice * dPoint, 2);
-  if (dTraitement < dSmicAnnuel) dTraitement = dSmicAnnuel;
+  if (bPlancherSmic) {
+    const double dSmicAnnuel = Arrondi(dSmicHoraire * Arrondi(dHeuresMois * 12, 2), 2);
+    if (dTraitement < dSmicAnnuel) dTraitement = dSmicAnnuel;
+  }
 
   double dResidence = 0;
   if (InfosSalaries.iZoneResid > 0) {
-    const double dIndiceResidence = ConstanteFixe("IndResid");
+    const double dIndiceResidence = m.ConstanteFixe("IndResid");
     if (iIndice < dIndiceResidence) {
       dResidence = Arrondi(dIndiceResidence * dPoint, 2) * InfosSalaries.iZoneResid / 100;
     } else {
@@ -56,6 +61,11 @@ double MethodeCalculG_Nouv::CalculSalaireBaseHS_Periode(VarCalculSalarie& InfosS
     }
   }
   return Arrondi(dTraitement + dResidence, 2);
+}
+
+double MethodeCalculG_Nouv::CalculSalaireBaseHS_Periode(VarCalculSalarie& InfosSalaries,
+                                                        double dIndice, const std::string& sType) {
+  return SalaireBaseHSPeriode(*this, InfosSalaries, dIndice, sType, true);
 }
 
 void MethodeCalculG_Nouv::CalculSalaireBaseHS(VarCalculSalarie& InfosSalaries) {

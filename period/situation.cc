@@ -5,6 +5,7 @@
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "period/periode_outils.h"
+#include "period/situation_jours.h"
 
 namespace orvalis {
 
@@ -89,6 +90,47 @@ void RepartitQuadrants(const VarCalculSalarie& s, Date dS, Int16 d1, Int16 d2, I
 
 }  // namespace
 
+std::optional<periode::JoursSituation> periode::JoursDeLaSituation(
+    const std::string& sPeriode, VarCalculSalarie& s, const std::string& sSituation,
+    const std::string& sDateDeb_Situation, const std::string& sDateFin_Situation) {
+  const Date dPeriode = LireDate(sPeriode);
+  const Date dDernier = DernierJourDuMois(dPeriode);
+  const bool bCalendaire = s.bCalculPayeEnJoursCalendaires;
+
+  const bool bChevauche =
+      (sDateFin_Situation.empty() || LireDate(sDateFin_Situation) >= dPeriode) &&
+      LireDate(sDateDeb_Situation) <= dDernier;
+  if (!bChevauche) return std::nullopt;
+  if (sSituation == "PF" || sSituation == "PD" || sSituation == "CP") {
+    s.sTypeCPA = sSituation;
+    const std::string sPremierDuMois = TexteDate(DateSerial(Annee(dPeriode), Mois(dPeriode), 1));
+    CoefficientsCPA(sSituation, sDateDeb_Situation, sPremierDuMois, s.dCoefficient_CPA,
+                    s.dCoefficient_CPAH);
+  }
+
+  Date dS = LireDate(sDateDeb_Situation);
+  const Date dEntree = LireDate(s.sDateDebut);
+  if (dEntree > dS) dS = dEntree;
+  Date dE = dDernier;
+  if (!sDateFin_Situation.empty()) {
+    dE = LireDate(sDateFin_Situation);
+    if (!s.sDateFin.empty() && LireDate(s.sDateFin) < dE) dE = LireDate(s.sDateFin);
+  }
+
+  Int16 d1 = JourDe(dS);
+  Int16 d2 = JourDe(dE);
+  if (dS < dPeriode) d1 = 1;
+  if (dE > dDernier && (!bCalendaire || d1 == 1)) d2 = 30;
+  if (!bCalendaire && d1 > 30) d1 = 30;
+  if (d2 > 30 && (!bCalendaire || d1 == 1)) d2 = 30;
+  // Unlike the first and last paid days, this February rule ignores calendar pay.
+  if (Mois(dPeriode) == 2 && !sSituation.empty()) {
+    if (d1 > Jour(dDernier)) d1 = 30;
+    if (d2 >= Jour(dDernier)) d2 = 30;
+  }
+  return JoursSituation{dS, d1, d2};
+}
+
 void MethodeCalculG_Nouv::CalculNombreJour_Situation(const std::string& sSituation,
                                                      const std::string& sDateDeb_Situation,
                                                      const std::string& sDateFin_Situation,
@@ -96,49 +138,15 @@ void MethodeCalculG_Nouv::CalculNombreJour_Situation(const std::string& sSituati
                                                      Int16& iNbj_IATA, Int16& iNbj_IATN,
                                                      Int16& iNbj_INTA, Int16& iNbj_INTN) {
   VarCalculSalarie& s = InfosSalaries;
-  const Date dPeriode = LireDate(gPeriodeEncours);
-  const Date dDernier = DernierJourDuMois(dPeriode);
-  const bool bCalendaire = s.bCalculPayeEnJoursCalendaires;
-
-  const bool bChevauche =
-      (sDateFin_Situation.empty() || LireDate(sDateFin_Situation) >= dPeriode) &&
-      LireDate(sDateDeb_Situation) <= dDernier;
-  if (bChevauche) {
-    if (sSituation == "PF" || sSituation == "PD" || sSituation == "CP") {
-      s.sTypeCPA = sSituation;
-      const std::string sPremierDuMois = TexteDate(DateSerial(Annee(dPeriode), Mois(dPeriode), 1));
-      CoefficientsCPA(sSituation, sDateDeb_Situation, sPremierDuMois, s.dCoefficient_CPA,
-                      s.dCoefficient_CPAH);
-    }
-
-    Date dS = LireDate(sDateDeb_Situation);
-    const Date dEntree = LireDate(s.sDateDebut);
-    if (dEntree > dS) dS = dEntree;
-    Date dE = dDernier;
-    if (!sDateFin_Situation.empty()) {
-      dE = LireDate(sDateFin_Situation);
-      if (!s.sDateFin.empty() && LireDate(s.sDateFin) < dE) dE = LireDate(s.sDateFin);
-    }
-
-    Int16 d1 = JourDe(dS);
-    Int16 d2 = JourDe(dE);
-    if (dS < dPeriode) d1 = 1;
-    if (dE > dDernier && (!bCalendaire || d1 == 1)) d2 = 30;
-    if (!bCalendaire && d1 > 30) d1 = 30;
-    if (d2 > 30 && (!bCalendaire || d1 == 1)) d2 = 30;
-    // Unlike the first and last paid days, this February rule ignores calendar pay.
-    if (Mois(dPeriode) == 2 && !sSituation.empty()) {
-      if (d1 > Jour(dDernier)) d1 = 30;
-      if (d2 >= Jour(dDernier)) d2 = 30;
-    }
-
+  const auto j = periode::JoursDeLaSituation(gPeriodeEncours, s, sSituation, sDateDeb_Situation,
+                                             sDateFin_Situation);
+  if (j) {
     if (EstDetachement(sSituation)) {
-      iNbj_INTN = iNbj_INTN + d2 - d1 + 1;
+      iNbj_INTN = iNbj_INTN + j->d2 - j->d1 + 1;
       if (iNbj_INTN > s.iNBJ_Presence_Total) iNbj_INTN = s.iNBJ_Presence_Total;
       return;
     }
-
-    RepartitQuadrants(s, dS, d1, d2, iNbj_IATA, iNbj_IATN, iNbj_INTA, iNbj_INTN);
+    RepartitQuadrants(s, j->dS, j->d1, j->d2, iNbj_IATA, iNbj_IATN, iNbj_INTA, iNbj_INTN);
   }
 
   if (EstDetachement(sSituation)) return;

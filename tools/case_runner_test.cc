@@ -166,8 +166,8 @@ TEST(CallTableTest, TheHistoricEngineHasOnlyWhatItsClassHas) {
   };
   EXPECT_EQ(erreurs("MajDateEnFormatChaine"),
             "steps[0].call: MethodeCalculG has no operation 'MajDateEnFormatChaine'\n");
-  EXPECT_EQ(erreurs("RechercheValeurBase"),
-            "steps[0].call: MethodeCalculG has no operation 'RechercheValeurBase'\n");
+  EXPECT_EQ(erreurs("CalculRubrique_BaseDivTaux"),
+            "steps[0].call: MethodeCalculG has no operation 'CalculRubrique_BaseDivTaux'\n");
   EXPECT_EQ(erreurs("Arrondi"), "steps[0].args: Arrondi(double, 16-bit integer) takes 2 arguments, got 0\n");
   EXPECT_EQ(erreurs("Appel_Methode_Preparation_Calcul_General"),
             "steps[0].args: Appel_Methode_Preparation_Calcul_General(text, VarCalculSalarie) takes "

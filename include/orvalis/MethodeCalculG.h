@@ -6,6 +6,7 @@
 #ifndef ORVALIS_METHODECALCULG_H_
 #define ORVALIS_METHODECALCULG_H_
 
+#include <optional>
 #include <string>
 
 #include "orvalis/MoteurCalcul.h"
@@ -24,7 +25,148 @@ class MethodeCalculG : public MoteurCalcul {
                                     const RsRef& RsVarSalariesHisto = nullptr,
                                     const RsRef& RsSalariesHisto = nullptr);
 
-  // ---- Historic rules (historic/) --------------------------------------------------------
+  // ---- Period preparation with the historic rule (historic/) ------------------------------
+  // dCoefficient_IAncien and dCoefficient_INouveau: the month split at sDateChangementIndice.
+  void CalculCoefficientUtilisationIndice(VarCalculSalarie& InfosSalaries);
+  void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
+                                            const std::string& sPeriode);
+  // One situation's days added to the two counts of the month, capped by the presence.
+  void CalculNombreJour_Situation(const std::string& sSituation,
+                                  const std::string& sDateDeb_Situation,
+                                  const std::string& sDateFin_Situation,
+                                  VarCalculSalarie& InfosSalaries, Int16& iNbj_A, Int16& iNbj_N);
+  // The day counts of the situations, from sSituation1 and sSituation2 of the record.
+  void CalculNombreJourDemiTraitement(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCPA(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCFA(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDispoOffice(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourCongeMaternite(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourFormation(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourDetachement(VarCalculSalarie& InfosSalaries);
+  void CalculNombreJourAutresAbsences(VarCalculSalarie& InfosSalaries);
+  // dCoefficient_Traitement, once for the whole month.
+  void CalculCoefficientTraitement(VarCalculSalarie& InfosSalaries);
+  // iNBJ_PresenceA and iNBJ_PresenceN; no total. An empty sPeriode is gPeriodeEncours.
+  void CalculNombreJourPresence(VarCalculSalarie& InfosSalaries, const std::string& sPeriode);
+  // The two counts of a month; a non-prorated period is a whole month on the new index.
+  void CalculNombreJourPresenceMois(VarCalculSalarie& InfosSalaries,
+                                    const std::string& sPeriodeEnCours, Int16& iNbj_A,
+                                    Int16& iNbj_N);
+  // dBase_HSN on the current index; dBase_HSA on the former one in July 2008, or when the
+  // index changed after the pay month, else on the current one.
+  void CalculSalaireBaseHS(VarCalculSalarie& InfosSalaries);
+  // With no floor at the yearly minimum wage.
+  double CalculSalaireBaseHS_Periode(VarCalculSalarie& InfosSalaries, double dIndice,
+                                     const std::string& sType);
+
+  // ---- Lookups with the historic rule (historic/) ----------------------------------------
+  // The officials' full month on the fixed index (820, then 821 from "200611") times the
+  // point of the month sPeriode moved back sDecalage months, times dTaux.
+  double dRechercheIndMajEluPeriode(VarCalculSalarie& InfosSalaries, const std::string& sPeriode,
+                                    const std::string& sDecalage, double& dResultat,
+                                    double dTaux);
+  // By employee, month and code only (lIdCumul is not read), and always PartSalariale.
+  double dRechercheValeurCumulHistorique(Int32 lIdSalarie, const std::string& sPeriode,
+                                         const std::string& sCode, double& dValeur,
+                                         const std::string& sMois, const std::string& sType,
+                                         Int32 lIdCumul) override;
+
+  // ---- Resolvers of the generic pay lines: the designations this engine knows ------------
+  double RechercheValeurBase(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             SalarieCalculRubrique& Rubrique);
+  double RechercheValeurCoefficient(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    Int32 lIdCoeffBase, const std::string& sCoeffBase,
+                                    SalarieCalculRubrique& Rubrique);
+  double RechercheValeurTauxSalarial(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     const RsRef& RsVarSalariesHisto,
+                                     SalarieCalculRubrique& Rubrique, std::string& sType,
+                                     const RsRef& RsSalariesHisto);
+  // No designation argument here.
+  double RechercheValeurTauxPatronal(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     SalarieCalculRubrique& Rubrique, std::string& sType);
+
+  double BaseDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                     SalarieCalculRubrique& Rubrique) override;
+  double CoefficientDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                            Int32 lIdCoeffBase, const std::string& sCoeffBase,
+                            SalarieCalculRubrique& Rubrique) override;
+  double TauxSalarialDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                             std::string& sType, const RsRef& RsSalariesHisto) override;
+  double TauxPatronalDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             SalarieCalculRubrique& Rubrique, std::string& sType) override;
+
+  // ---- Generic pay lines: the shared bodies, through the resolvers above -----------------
+  void CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                               const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                   const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsSalariesHisto);
+  void CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                  const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsSalariesHisto);
+  void CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
+                                            const RsRef& RsVarSalaries,
+                                            const RsRef& RsVarSalariesHisto,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const RsRef& RsSalariesHisto);
+  void CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                       const RsRef& RsVarSalariesHisto,
+                                       SalarieCalculRubrique& Rubrique,
+                                       const RsRef& RsSalariesHisto);
+  void CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
+                                           const RsRef& RsVarSalaries,
+                                           const RsRef& RsVarSalariesHisto,
+                                           SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& InfosSalaries,
+                                                    const RsRef& RsVarSalaries,
+                                                    const RsRef& RsVarSalariesHisto,
+                                                    SalarieCalculRubrique& Rubrique);
+
+  // ---- Contributions with the historic rule (historic/) ----------------------------------
+  void CalculRubrique_ReductionHS(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsVarSalaries);
+  void CalculRubrique_RappelReductionHS(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_ReductionFillon(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique,
+                                      const std::string& sNomcalcul);
+  void CalculRubrique_TaxeSalaire_Taux1(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_TaxeSalaire_Taux2(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_Gipa(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
+  // Not shared among employers by the weekly hours.
+  std::optional<double> dMontantGIPA(VarCalculSalarie& InfosSalaries, double dIM_Debut,
+                                     double dPoint_Debut, double dIM_Fin, double dPoint_Fin,
+                                     double dTauxInflation, double dHrsHebdo,
+                                     double dTauxTempsPartiel);
+  void CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  // The officials' withholding of the historic method, as in the current engine.
+  RsRef EnregistreDetailRetenueSource();
+  void CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
+                                          SalarieCalculRubrique& Rubrique,
+                                          const RsRef& RsVariablesSalaries);
 };
 
 }  // namespace orvalis

@@ -60,21 +60,18 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   double RechercheValeurTauxPatronal(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                                      SalarieCalculRubrique& Rubrique, std::string& sType,
                                      const std::string& sDesignation);
-  // "CodeTaux = 'code'" on gRsTaux: PartPatronale rounded to 2 places; 0 by default or null.
-  double dRechercheTauxPatronal(const std::string& sCode);
-  // The rate of the CET designations into dTaux: the constant "~TXCSGPROF" times the rates
-  // "URSDCSG" + "URSCSG" + "URSRDS". Gives true.
-  bool bTauxCsgProfessionnel(double& dTaux);
-  // The employee's own hourly rate from his variables. sCodeTauxSmic (a percentage of the
-  // SMIC of the month, or of the month before when bMoisPrec) above 0 gives
-  // SMIC x percentage x dCoeffMajoration / 100; otherwise sCodeTauxHeures, rounded to
-  // iNbDecimales, times dCoeffMajoration, with sType = sCodeType. With neither variable, or
-  // no row in RsVar, dValeur and sType stay as given. dHeures and sMois are not read.
-  void CalculTauxHoraireSalarie(const RsRef& RsVar, const std::string& sCodeTauxSmic,
-                                const std::string& sCodeTauxHeures, const std::string& sCodeType,
-                                double dHeures, double dCoeffMajoration, double& dValeur,
-                                std::string& sType, const std::string& sMois, bool bMoisPrec,
-                                Int16 iNbDecimales);
+  // dRechercheTauxPatronal, bTauxCsgProfessionnel and CalculTauxHoraireSalarie: MoteurCalcul.
+  // The reads of a generic pay line through this engine's resolvers.
+  double BaseDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                     SalarieCalculRubrique& Rubrique) override;
+  double CoefficientDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                            Int32 lIdCoeffBase, const std::string& sCoeffBase,
+                            SalarieCalculRubrique& Rubrique) override;
+  double TauxSalarialDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                             std::string& sType, const RsRef& RsSalariesHisto) override;
+  double TauxPatronalDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             SalarieCalculRubrique& Rubrique, std::string& sType) override;
   // The value of one worked day for the arbitration of paid leave: the line's coefficient
   // over a twelfth of the working days of the year, to 2 places; 0 for a year without one.
   double dArbitrageJours(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,

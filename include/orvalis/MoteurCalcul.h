@@ -78,10 +78,11 @@ class MoteurCalcul {
                                              const std::string& sMois);
   // The employee's total of a month (the month before sPeriode when sMois is empty), by
   // code, or by id when lIdCumul is not 0. Into dValeur; gives dValeur.
-  double dRechercheValeurCumulHistorique(Int32 lIdSalarie, const std::string& sPeriode,
-                                         const std::string& sCode, double& dValeur,
-                                         const std::string& sMois, const std::string& sType,
-                                         Int32 lIdCumul);
+  // The historic engine has its own, narrower form.
+  virtual double dRechercheValeurCumulHistorique(Int32 lIdSalarie, const std::string& sPeriode,
+                                                 const std::string& sCode, double& dValeur,
+                                                 const std::string& sMois,
+                                                 const std::string& sType, Int32 lIdCumul);
   // HeuresMois of the month before sDate in the employee's pay history. The history is the
   // employee's own: lIdSalarie is not part of the criterion.
   double dRechercheHeuresMoisHistorique(const RsRef& RsSalariesHisto, Int32 lIdSalarie,
@@ -101,6 +102,39 @@ class MoteurCalcul {
 
   // F(field): a column of the current row of gRsConstantesFixes, a null giving 0.
   double ConstanteFixe(const std::string& sChamp);
+
+  // ---- Rate lookups and the hourly rate, the same in both engines (generic/) -------------
+  // "CodeTaux = 'code'" on gRsTaux: PartPatronale rounded to 2 places; 0 by default or null.
+  double dRechercheTauxPatronal(const std::string& sCode);
+  // The rate of the CET designations into dTaux: the constant "~TXCSGPROF" times the rates
+  // "URSDCSG" + "URSCSG" + "URSRDS". Gives true.
+  bool bTauxCsgProfessionnel(double& dTaux);
+  // The employee's own hourly rate from his variables. sCodeTauxSmic (a percentage of the
+  // SMIC of the month, or of the month before when bMoisPrec) above 0 gives
+  // SMIC x percentage x dCoeffMajoration / 100; otherwise sCodeTauxHeures, rounded to
+  // iNbDecimales, times dCoeffMajoration, with sType = sCodeType. With neither variable, or
+  // no row in RsVar, dValeur and sType stay as given. dHeures and sMois are not read.
+  void CalculTauxHoraireSalarie(const RsRef& RsVar, const std::string& sCodeTauxSmic,
+                                const std::string& sCodeTauxHeures, const std::string& sCodeType,
+                                double dHeures, double dCoeffMajoration, double& dValeur,
+                                std::string& sType, const std::string& sMois, bool bMoisPrec,
+                                Int16 iNbDecimales);
+
+  // ---- The four reads of a generic pay line, each engine with its own resolvers ----------
+  // The handlers both engines share read a line through these; each engine forwards to its
+  // RechercheValeurBase, RechercheValeurCoefficient, RechercheValeurTauxSalarial and
+  // RechercheValeurTauxPatronal, with the arguments it has.
+  virtual double BaseDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                             SalarieCalculRubrique& Rubrique) = 0;
+  virtual double CoefficientDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    Int32 lIdCoeffBase, const std::string& sCoeffBase,
+                                    SalarieCalculRubrique& Rubrique) = 0;
+  virtual double TauxSalarialDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     const RsRef& RsVarSalariesHisto,
+                                     SalarieCalculRubrique& Rubrique, std::string& sType,
+                                     const RsRef& RsSalariesHisto) = 0;
+  virtual double TauxPatronalDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                     SalarieCalculRubrique& Rubrique, std::string& sType) = 0;
 
  protected:
   MoteurCalcul();  // Class_Initialize
