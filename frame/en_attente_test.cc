@@ -15,30 +15,10 @@ namespace {
 
 TEST(EnAttenteTest, CurrentEngineHandlersStillPending) {
   const std::vector<std::string> attendus = {
-      "CalculCoefficientDemiTraitement",
-      "CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
-      "dMontantProratiseSuivantDemiTraitement",
-      "CalculRubrique_Traitement_Indiciaire_Journalier",
-      "CalculRubrique_TraitementHoraireMois",
-      "CalculRubrique_TraitementIndiciaireMois",
-      "CalculRubrique_TraitementIndiciaireMoisPrecedent",
-      "CalculRubrique_DemiTraitementIndiciaire",
-      "CalculRubrique_AllocationComplementaireMaladie",
-      "CalculRubrique_AllocationComplementaireMaladieNbi",
-      "CalculRubrique_BonificationIndiciaire",
-      "CalculRubrique_DemiTraitementBonification",
       "CalculRubrique_IndemniteCoordination",
-      "CalculRubrique_Greve",
-      "CalculRubrique_SupplementFamilialIC",
-      "CalculRubrique_TraitementBaseParticulier",
-      "CalculRubrique_TraitementJournalierSmic",
-      "CalculRubrique_MaintienSalaireHoraire",
-      "CalculRubrique_MaintienSalaire",
-      "CalculRubrique_TptNonSubroge",
-      "CalculRubrique_Carence",
   };
   EXPECT_EQ(NomsEnAttente(), attendus);
-  EXPECT_EQ(NomsEnAttente().size(), 21u);
+  EXPECT_EQ(NomsEnAttente().size(), 1u);
 }
 
 TEST(EnAttenteTest, HistoricEngineHandlersAllPending) {

@@ -1200,7 +1200,7 @@ TEST(FrameReviewTest, EmptySourcesGiveTheDefaultWithNoMoveFirstAndNoFilter) {
   d = -1;
   EXPECT_EQ(m.dRechercheValeurCumulHistorique(1, "01/03/2024", "A", d, "", "S", 0), 0.0);
   EXPECT_EQ(d, 0.0);
-  EXPECT_EQ(m.dRechercheHeuresMoisHistorique(paie, "01/03/2024"), 0.0);
+  EXPECT_EQ(m.dRechercheHeuresMoisHistorique(paie, 1, "01/03/2024"), 0.0);
   d = -1;
   EXPECT_EQ(m.dRecherchePointHistorique(d, "01/03/2024", "-1"), 0.0);
   EXPECT_EQ(d, 0.0);
@@ -1337,9 +1337,9 @@ TEST(FrameReviewTest, HoursOfTheMonthBeforeUseABareKey) {
   MethodeCalculG_Nouv m;
   auto paie = Espionne({"IDSALARIE", "Mois", "HeuresMois"},
                      {{1.0, "202402", 151.67}, {1.0, "202312", Value()}});
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(paie, "31/03/2024"), 151.67);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(paie, 1, "31/03/2024"), 151.67);
   EXPECT_EQ(paie->Filtres().back(), " Mois = 202402");
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(paie, "15/01/2024"), 0.0);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(paie, 1, "15/01/2024"), 0.0);
   EXPECT_EQ(paie->Filtres().back(), " Mois = 202312");
   EXPECT_EQ(paie->appels.back(), "ClearFilter");
 }

@@ -215,6 +215,7 @@ double MoteurCalcul::dRecherchePointMois(Int32 /*lIdSalarie*/, const std::string
 }
 
 double MoteurCalcul::dRechercheHeuresMoisHistorique(const RsRef& RsSalariesHisto,
+                                                    Int32 /*lIdSalarie*/,
                                                     const std::string& sDate) {
   double d = 0;
   Recordset& rs = Source(RsSalariesHisto, "RsSalariesHisto");

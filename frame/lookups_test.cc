@@ -72,7 +72,7 @@ TEST_F(Lookups, EmptySourceGivesTheDefaultWithoutMoveFirstOrFilter) {
   d = 3;
   EXPECT_DOUBLE_EQ(m.dRechercheValeur_VariableBis(vide, "X", d), 0.0);
   EXPECT_DOUBLE_EQ(d, 0.0);
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(vide, "01/03/2024"), 0.0);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(vide, 42, "01/03/2024"), 0.0);
   d = 3;
   EXPECT_DOUBLE_EQ(m.dRechercheValeurCumulHistorique(42, "01/03/2024", "BASE", d, "", "S", 0), 0.0);
   EXPECT_DOUBLE_EQ(d, 0.0);
@@ -383,10 +383,12 @@ TEST_F(LookupsHistorique, SmicBefore2005HasNoKeyAndFaults) {
 TEST_F(Lookups, HeuresMoisOfTheMonthBefore) {
   RsRef rs = Table({"IDSALARIE", "Mois", "HeuresMois"},
                    {{42.0, "202401", 140.0}, {42.0, 202402.0, 151.67}, {42.0, "202312", Value()}});
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, "01/03/2024"), 151.67);
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, "29/02/2024"), 140.0);
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, "01/01/2024"), 0.0);
-  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, "01/06/2024"), 0.0);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, 42, "01/03/2024"), 151.67);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, 42, "29/02/2024"), 140.0);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, 42, "01/01/2024"), 0.0);
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, 42, "01/06/2024"), 0.0);
+  // The history is the employee's own: another id finds the same month.
+  EXPECT_DOUBLE_EQ(m.dRechercheHeuresMoisHistorique(rs, 7, "01/03/2024"), 151.67);
 }
 
 }  // namespace

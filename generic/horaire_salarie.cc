@@ -71,7 +71,8 @@ void MethodeCalculG_Nouv::CalculTauxHoraireMoisPrec(double dCoeffMajoration,
   const double dBase = Historique("BASE");
   const double dRappel = Historique("BASERAPPEL");
   const double dDifferentielle = Historique("INDDIFF");
-  const double dHeures = dRechercheHeuresMoisHistorique(RsSalariesHisto, gPeriodeEncours);
+  const double dHeures = dRechercheHeuresMoisHistorique(RsSalariesHisto, InfosSalaries.lIdSalarie,
+                                                        gPeriodeEncours);
   if (dHeures == 0) return;
   dValeur = (dBase + dDifferentielle - dRappel) / dHeures * dCoeffMajoration;
   sType = "M";

@@ -85,6 +85,7 @@ const std::vector<Operation>& TableDesAppels() {
       Op("MajDateEnFormatChaine", &MajDateEnFormatChaine, kNouv),
       Op("MajChaineEnFormatDate", &MajChaineEnFormatDate),
       Op("dMontantProratiseSuivantDemiTraitement", &N::dMontantProratiseSuivantDemiTraitement),
+      Op("dCoefficientIndemnitaireDemiTraitement", &N::dCoefficientIndemnitaireDemiTraitement),
       Op("CalculRubrique_Gipa", &N::CalculRubrique_Gipa),
       Op("dMontantGIPA", &N::dMontantGIPA),
       Op("CalculRubrique_BaseTauxChoix", &N::CalculRubrique_BaseTauxChoix),
@@ -166,6 +167,14 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculNombreJourDetachementSansPension", &N::CalculNombreJourDetachementSansPension),
       Op("CalculNombreJourMaintienTraitement", &N::CalculNombreJourMaintienTraitement),
       Op("CalculNombreJourTptNonSubroge", &N::CalculNombreJourTptNonSubroge),
+
+      // ---- Strike, waiting-day and maintained-pay lines reached by name ----------------------
+      Op("CalculRubrique_Greve", &N::CalculRubrique_Greve),
+      Op("CalculRubrique_Carence", &N::CalculRubrique_Carence),
+      Op("CalculRubrique_MaintienSalaire", &N::CalculRubrique_MaintienSalaire),
+      Op("CalculRubrique_MaintienSalaireHoraire", &N::CalculRubrique_MaintienSalaireHoraire),
+      Op("dMaintienSalaireCoefficient", &N::dMaintienSalaireCoefficient),
+      Op("CalculRubrique_TptNonSubroge", &N::CalculRubrique_TptNonSubroge),
 
       // ---- Generic pay lines reached by name -------------------------------------------------
       Op("CalculRubrique_MontantFixe", &N::CalculRubrique_MontantFixe),

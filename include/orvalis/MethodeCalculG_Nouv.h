@@ -398,6 +398,15 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                              double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
                              double& dMontant);
 
+  // ---- Half pay (salary/) ------------------------------------------------------------------
+  // The half-pay days of the line into the four quadrant counts (IATA, IATN, INTA, INTN):
+  // the availability days for the codes "INDCOSFT", "INDCOBONIF", "INDCOTRAIT", "INDCOIR",
+  // otherwise the half-pay days; the half-pay coefficient is set first, but for "INDCOSFT".
+  void dCoefficientIndemnitaireDemiTraitement(VarCalculSalarie& InfosSalaries, Int16& iNbj_IATA,
+                                              Int16& iNbj_IATN, Int16& iNbj_INTA,
+                                              Int16& iNbj_INTN, const std::string& sType,
+                                              const std::string& sCodeRubrique);
+
   // ---- Absences and replacement income (absences/) ---------------------------------------
   void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
                                               SalarieCalculRubrique& Rubrique,
@@ -431,6 +440,11 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                     SalarieCalculRubrique& Rubrique, Int16& iTauxTptNonSubroge);
   void CalculRubrique_Carence(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                               const std::string& sVariante, const RsRef& RsSalariesHisto);
+  // The four day counts of a maintained-pay line: the 90 % days for "MAINTIEN90", the
+  // two-thirds days for "MAINTIEN66", none for any other code.
+  void dMaintienSalaireCoefficient(VarCalculSalarie& InfosSalaries, Int16& iJoursIATA,
+                                   Int16& iJoursIATN, Int16& iJoursINTA, Int16& iJoursINTN,
+                                   const std::string& sCodeRubrique);
   void CalculRubrique_RetenueCongesPayes(VarCalculSalarie& InfosSalaries,
                                          const RsRef& RsVarSalaries, const RsRef& RsSalariesHisto,
                                          const RsRef& RsVarSalariesHisto,

@@ -82,8 +82,10 @@ class MoteurCalcul {
                                          const std::string& sCode, double& dValeur,
                                          const std::string& sMois, const std::string& sType,
                                          Int32 lIdCumul);
-  // HeuresMois of the month before sDate in the employee's pay history.
-  double dRechercheHeuresMoisHistorique(const RsRef& RsSalariesHisto, const std::string& sDate);
+  // HeuresMois of the month before sDate in the employee's pay history. The history is the
+  // employee's own: lIdSalarie is not part of the criterion.
+  double dRechercheHeuresMoisHistorique(const RsRef& RsSalariesHisto, Int32 lIdSalarie,
+                                        const std::string& sDate);
   // Point of the month sDate shifted by sDecalage months, into dPoint; gives dPoint.
   double dRecherchePointHistorique(double& dPoint, const std::string& sDate,
                                    const std::string& sDecalage);
