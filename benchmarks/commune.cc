@@ -88,12 +88,13 @@ void SourcesDeLaCommune(MethodeCalculG_Nouv& m) {
   m.gRsConstantesFixesHistorique = NouveauRecordset({"Mois", "Point", "IndMinRemuneration"});
   m.gRsConstantesFixes = NouveauRecordset({"Point", "IndResid", "IndMinSF", "IndMaxSF", "SFFixe1",
                                            "SFFixe2", "SFvar2", "SFFixe3", "SFvar3", "SFFixeSup",
-                                           "SFvarsup", "SmicHor"});
+                                           "SFvarsup", "SmicHor", "HrsMois", "IndMinRemuneration"});
   m.gRsConstantesFixes->AddNew();
   const std::pair<const char*, double> fixes[] = {
       {"Point", 59.0734}, {"IndResid", 313},  {"IndMinSF", 454},  {"IndMaxSF", 722},
       {"SFFixe1", 2.29},  {"SFFixe2", 10.67}, {"SFvar2", 3},      {"SFFixe3", 15.24},
-      {"SFvar3", 8},      {"SFFixeSup", 4.57}, {"SFvarsup", 6},   {"SmicHor", 11.65}};
+      {"SFvar3", 8},      {"SFFixeSup", 4.57}, {"SFvarsup", 6},   {"SmicHor", 11.65},
+      {"HrsMois", 151.67}, {"IndMinRemuneration", 361}};
   for (const auto& [champ, valeur] : fixes) m.gRsConstantesFixes->SetField(champ, valeur);
 }
 
@@ -121,6 +122,9 @@ VarCalculSalarie Fonctionnaire(RsRef& vars) {
   s.dNB_Jours_Max_Decalage_Mois = -1;
   s.sDateChangementIndice = "11/03/2024";
   s.sDateChangementHeures = "01/01/2015";
+  s.dIndiceMajoreA = 366;  // before the change
+  s.dIndiceMajoreM = 400;  // from it
+  s.dBonification = 15;    // points of the index bonus
   s.rsSituationsExceptionnelles =
       NouveauRecordset({"CodeSituationExceptionnelle", "DateDebutSituationExceptionnelle",
                         "DateFinSituationExceptionnelle", "Quotite"});
