@@ -12,14 +12,15 @@
 #include <sstream>
 #include <string>
 
+#include "frame/arrondi_chiffres.h"
 #include "orvalis/dates.h"
 #include "orvalis/fault.h"
 #include "orvalis/value.h"
 
 namespace orvalis {
 
-char cSeparateurDecimal = '.';
-char cAutreSeparateur = ',';
+thread_local char cSeparateurDecimal = '.';
+thread_local char cAutreSeparateur = ',';
 
 namespace {
 
@@ -100,18 +101,22 @@ std::string TexteNombre(double d) {
   return t + chiffres.substr(0, entiers) + cSeparateurDecimal + chiffres.substr(entiers);
 }
 
-double Arrondi(double vValeur, Int16 iNbDecimales) {
-  const int places = iNbDecimales.value();
-  if (places < 0) Faute("invalid procedure call or argument");
-  const double dUnite = UniteArrondi(places);
+namespace {
 
-  const double somme = Div(std::fabs(vValeur), dUnite) + 0.5;
+// The sum Arrondi takes the integer part of: |vValeur| in units of the last place, plus a half.
+double SommeArrondi(double vValeur, int places) {
+  if (places < 0) Faute("invalid procedure call or argument");
+  const double somme = Div(std::fabs(vValeur), UniteArrondi(places)) + 0.5;
   if (!std::isfinite(somme) || somme >= kDecimalMax) Faute("overflow");
+  return somme;
+}
+
+// The integer part of the sum as a decimal of 15 significant digits, times the unit as a
+// decimal (exactly 10^-places; past 28 places it is 0), read back as the nearest double.
+double ParLesChiffres(double vValeur, double somme, int places) {
   char chiffres[15];
   int exposant = 0;
   Chiffres15(somme, chiffres, exposant);
-  // Integer part of the 15-digit decimal, then times the unit as a decimal (exactly
-  // 10^-places; past 28 places it is 0).
   if (exposant < 0 || places > kEchelleMax) return 0.0;
   char entier[64];
   std::size_t n = 0;
@@ -126,6 +131,45 @@ double Arrondi(double vValeur, Int16 iNbDecimales) {
   if (std::all_of(entier, entier + n, [](char c) { return c == '0'; })) return 0.0;
   const double r = DepuisDecimal(entier, n, places);
   return vValeur < 0 ? -r : r;
+}
+
+// The same result without the digits, when the sum stands clear of the next integer: its 15
+// digits then keep its integer part (an integer below 10^15 is on their grid, and the
+// rounding to them moves the sum by half a unit of the fifteenth digit at most), and that
+// integer over 10^places, both exact doubles, is the nearest double to their quotient.
+// False when the digits must decide.
+bool SansLesChiffres(double vValeur, double somme, int places, double& r) {
+  static constexpr double kPuissances[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                           1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                           1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  if (places > 22 || !(somme < 1e15)) return false;
+  int k = 0;
+  while (kPuissances[k] <= somme) ++k;  // the sum is below 10^k: its fifteenth digit is 10^(k-15)
+  const double entier = std::floor(somme);
+  // Both sides exact (the two numbers are within a factor 2); a whole unit of margin.
+  if ((entier + 1) - somme <= kPuissances[k] * 1e-15) return false;
+  if (entier == 0) {
+    r = 0.0;
+  } else {
+    r = entier / kPuissances[places];
+    if (vValeur < 0) r = -r;
+  }
+  return true;
+}
+
+}  // namespace
+
+double ArrondiParLesChiffres(double vValeur, Int16 iNbDecimales) {
+  const int places = iNbDecimales.value();
+  return ParLesChiffres(vValeur, SommeArrondi(vValeur, places), places);
+}
+
+double Arrondi(double vValeur, Int16 iNbDecimales) {
+  const int places = iNbDecimales.value();
+  const double somme = SommeArrondi(vValeur, places);
+  double r = 0;
+  if (SansLesChiffres(vValeur, somme, places, r)) return r;
+  return ParLesChiffres(vValeur, somme, places);
 }
 
 double dTronqueAuPas(double dValeur, double vPas, bool bGardeNegatif) {

@@ -2,8 +2,11 @@
 #include "frame/filter.h"
 
 #include <charconv>
+#include <functional>
 #include <string>
 #include <system_error>
+#include <unordered_map>
+#include <utility>
 
 #include "orvalis/fault.h"
 
@@ -166,6 +169,22 @@ class Lecteur {
 }  // namespace
 
 Noeud LireCritere(std::string_view criterion) { return Lecteur(criterion).Lire(); }
+
+const Noeud& CritereLu(std::string_view criterion) {
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+  };
+  // Criteria built with an employee's id or a month never repeat: past the bound the kept
+  // ones are dropped and the cache fills again.
+  constexpr std::size_t kGardes = 512;
+  thread_local std::unordered_map<std::string, Noeud, Hash, std::equal_to<>> lus;
+  const auto it = lus.find(criterion);
+  if (it != lus.end()) return it->second;
+  Noeud n = LireCritere(criterion);  // an unreadable criterion faults and is not kept
+  if (lus.size() >= kGardes) lus.clear();
+  return lus.emplace(std::string(criterion), std::move(n)).first->second;
+}
 
 bool LitNombre(std::string_view s, double& out) {
   std::size_t debut = 0, fin = s.size();

@@ -31,6 +31,10 @@ struct Noeud {
 // Reads a criterion; an unreadable one is a Fault quoting it.
 Noeud LireCritere(std::string_view criterion);
 
+// The same, read once and kept: the criteria a thread has read, up to a few hundred, are
+// looked up by their text. The tree stays valid until the thread's next call.
+const Noeud& CritereLu(std::string_view criterion);
+
 // A numeric text as a bare number of a criterion reads it: blanks, a sign, digits with '.'
 // or ',' as the decimal separator, an optional exponent. False for anything else.
 bool LitNombre(std::string_view s, double& out);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "frame/filtre_egalite.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/MoteurCalcul.h"
@@ -37,13 +38,28 @@ std::string CleMoisDecale(const std::string& sDate, Int32 lDecalage) {
 
 // The pattern of every lookup: nothing on a source with no rows (MoveFirst would fault);
 // otherwise first row, filter, read if a row stands, clear the filter.
-template <typename Lire>
-void Cherche(Recordset& rs, const std::string& sCritere, Lire lire) {
+template <typename Filtre, typename Lire>
+void ChercheAvec(Recordset& rs, Filtre filtre, Lire lire) {
   if (rs.RecordCount() == 0) return;
   rs.MoveFirst();
-  rs.Filter(sCritere);
+  filtre(rs);
   if (!rs.Eof()) lire(rs);
   rs.ClearFilter();
+}
+
+template <typename Lire>
+void Cherche(Recordset& rs, const std::string& sCritere, Lire lire) {
+  ChercheAvec(rs, [&](Recordset& r) { r.Filter(sCritere); }, lire);
+}
+
+// The same by "colonne = 'code'" and "colonne = id".
+template <typename Lire>
+void ChercheCode(Recordset& rs, const char* colonne, const std::string& sCode, Lire lire) {
+  ChercheAvec(rs, [&](Recordset& r) { FiltreCode(r, colonne, sCode); }, lire);
+}
+template <typename Lire>
+void ChercheId(Recordset& rs, const char* colonne, Int32 lId, Lire lire) {
+  ChercheAvec(rs, [&](Recordset& r) { FiltreId(r, colonne, lId); }, lire);
 }
 
 double NombreDe(Recordset& rs, const std::string& sColonne) {
@@ -56,7 +72,7 @@ double NombreDe(Recordset& rs, const std::string& sColonne) {
 
 double MoteurCalcul::dRechercheValeur_Constantes(const RsRef& rs, const std::string& sCode) {
   double d = 0;
-  Cherche(Source(rs, "RsConstantes"), "CodeConstante = '" + sCode + "'",
+  ChercheCode(Source(rs, "RsConstantes"), "CodeConstante", sCode,
           [&](Recordset& r) { d = NombreDe(r, "Valeur"); });
   return d;
 }
@@ -64,7 +80,7 @@ double MoteurCalcul::dRechercheValeur_Constantes(const RsRef& rs, const std::str
 void MoteurCalcul::RechercheValeurType_Constantes(Int32 lId, double& dValeur, std::string& sType) {
   dValeur = 0;
   sType.clear();
-  Cherche(Source(gRsConstantes, "gRsConstantes"), "IdConstante = " + Chiffres(lId),
+  ChercheId(Source(gRsConstantes, "gRsConstantes"), "IdConstante", lId,
           [&](Recordset& r) {
             dValeur = NombreDe(r, "Valeur");
             sType = r.Field("TauxMontant").TexteOuVide();
@@ -88,14 +104,14 @@ double MoteurCalcul::ConstanteFixe(const std::string& sChamp) {
 
 double MoteurCalcul::dRechercheValeurTaux(const std::string& sCode) {
   double d = 0;
-  Cherche(Source(gRsTaux, "gRsTaux"), "CodeTaux = '" + sCode + "'",
+  ChercheCode(Source(gRsTaux, "gRsTaux"), "CodeTaux", sCode,
           [&](Recordset& r) { d = Arrondi(NombreDe(r, "PartSalariale"), 2); });
   return d;
 }
 
 double MoteurCalcul::dRechercheValeurCumul(const std::string& sCode, const std::string& sType) {
   double d = 0;
-  Cherche(Source(gRsCumuls, "gRsCumuls"), "CodeCumul = '" + sCode + "'", [&](Recordset& r) {
+  ChercheCode(Source(gRsCumuls, "gRsCumuls"), "CodeCumul", sCode, [&](Recordset& r) {
     d = Arrondi(NombreDe(r, sType == "S" ? "PartSalariale" : "PartPatronale"), 2);
   });
   return d;
@@ -104,7 +120,7 @@ double MoteurCalcul::dRechercheValeurCumul(const std::string& sCode, const std::
 double MethodeCalculG_Nouv::dRechercheValeurCumulRappel(const std::string& sCode,
                                                         const std::string& sType) {
   double d = 0;
-  Cherche(Source(gRsCumuls, "gRsCumuls"), "CodeCumul = '" + sCode + "'", [&](Recordset& r) {
+  ChercheCode(Source(gRsCumuls, "gRsCumuls"), "CodeCumul", sCode, [&](Recordset& r) {
     d = Arrondi(NombreDe(r, sType == "S" ? "PartSalarialeRappel" : "PartPatronaleRappel"), 2);
   });
   return d;
@@ -176,7 +192,7 @@ double MoteurCalcul::dRechercheValeurCumulHistorique(Int32 lIdSalarie, const std
 double MoteurCalcul::dValeurVariableSansArrondi(const RsRef& RsVariablesSalaries,
                                                 const std::string& sCode) {
   double d = 0;
-  Cherche(Source(RsVariablesSalaries, "RsVariablesSalaries"), "CodeVariable = '" + sCode + "'",
+  ChercheCode(Source(RsVariablesSalaries, "RsVariablesSalaries"), "CodeVariable", sCode,
           [&](Recordset& r) { d = NombreDe(r, "Valeur"); });
   return d;
 }
@@ -190,7 +206,7 @@ double MoteurCalcul::dRechercheValeur_Variable(const RsRef& RsVariablesSalaries,
 std::string MoteurCalcul::dRechercheDate_Variable(const RsRef& RsVariablesSalaries,
                                                   const std::string& sCode) {
   std::string s;
-  Cherche(Source(RsVariablesSalaries, "RsVariablesSalaries"), "CodeVariable = '" + sCode + "'",
+  ChercheCode(Source(RsVariablesSalaries, "RsVariablesSalaries"), "CodeVariable", sCode,
           [&](Recordset& r) { s = MajChaineEnFormatDate(r.Field("DateEffet").TexteOuVide()); });
   return s;
 }
@@ -198,7 +214,7 @@ std::string MoteurCalcul::dRechercheDate_Variable(const RsRef& RsVariablesSalari
 double MoteurCalcul::dRechercheValeur_VariableBis(const RsRef& RsVariablesSalaries,
                                                   const std::string& sCode, double& dValeur) {
   dValeur = 0;
-  Cherche(Source(RsVariablesSalaries, "RsVariablesSalaries"), "CodeVariable = '" + sCode + "'",
+  ChercheCode(Source(RsVariablesSalaries, "RsVariablesSalaries"), "CodeVariable", sCode,
           [&](Recordset& r) { dValeur = NombreDe(r, "Valeur"); });
   return dValeur;
 }

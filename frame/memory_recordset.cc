@@ -100,6 +100,14 @@ void MemoryRecordset::AjouteColonne(const std::string& column) {
 }
 
 std::size_t MemoryRecordset::Colonne(std::string_view column, const char* usage) const {
+  // The engine names its columns as the tables spell them: on a narrow table a plain
+  // comparison finds them before any hashing. Names are unique whatever their case, so an
+  // exact match is the one match.
+  constexpr std::size_t kEtroite = 8;
+  if (colonnes_.size() <= kEtroite) {
+    for (std::size_t c = 0; c < colonnes_.size(); ++c)
+      if (colonnes_[c] == column) return c;
+  }
   const auto it = parNom_.find(column);
   if (it == parNom_.end()) Faute(std::string(usage) + std::string(column));
   return it->second;
@@ -166,10 +174,24 @@ void MemoryRecordset::Filter(const std::string& criterion) {
     ClearFilter();  // an empty criterion is no filter
     return;
   }
-  const critere::Noeud n = critere::LireCritere(criterion);
+  const critere::Noeud& n = critere::CritereLu(criterion);
   // Worked out aside: a criterion that faults leaves the present filter as it stands.
   Evalue(n, tampon_);
-  vue_.swap(tampon_);
+  Remplace(tampon_);
+}
+
+void MemoryRecordset::FiltreTexte(std::string_view column, std::string_view texte) {
+  ChercheTexte(Colonne(column, "filter on a missing column: "), texte, tampon_);
+  Remplace(tampon_);
+}
+
+void MemoryRecordset::FiltreNombre(std::string_view column, double nombre) {
+  ChercheNombre(Colonne(column, "filter on a missing column: "), nombre, tampon_);
+  Remplace(tampon_);
+}
+
+void MemoryRecordset::Remplace(Lignes& nouvelle) {
+  vue_.swap(nouvelle);
   filtre_ = true;
   pos_ = 0;
 }
@@ -202,15 +224,24 @@ void MemoryRecordset::Evalue(const critere::Noeud& n, Lignes& out) {
 
 void MemoryRecordset::Cherche(const critere::Egalite& e, Lignes& out) {
   const std::size_t col = Colonne(e.colonne, "filter on a missing column: ");
-  out.clear();
   if (e.texte) {
-    const Index& ix = IndexTexte(col);
-    const auto it = ix.parTexte.find(e.sTexte);
-    if (it != ix.parTexte.end()) out.assign(it->second.begin(), it->second.end());
-    return;
+    ChercheTexte(col, e.sTexte, out);
+  } else {
+    ChercheNombre(col, e.dNombre, out);
   }
+}
+
+void MemoryRecordset::ChercheTexte(std::size_t col, std::string_view texte, Lignes& out) {
+  out.clear();
+  const Index& ix = IndexTexte(col);
+  const auto it = ix.parTexte.find(texte);
+  if (it != ix.parTexte.end()) out.assign(it->second.begin(), it->second.end());
+}
+
+void MemoryRecordset::ChercheNombre(std::size_t col, double nombre, Lignes& out) {
+  out.clear();
   const Index& ix = IndexNombre(col);
-  double d = e.dNombre;
+  double d = nombre;
   if (d == 0) d = 0;
   const auto it = ix.parNombre.find(d);
   const Lignes& booleens = (d != 0) ? ix.vrais : ix.faux;

@@ -50,6 +50,11 @@ class MemoryRecordset final : public Recordset {
   std::vector<std::string> Columns() const override;
   std::vector<std::vector<Value>> Rows() const override;
 
+  // The filters "column = 'texte'" and "column = nombre" set straight from the index, with
+  // no criterion text: the same rows, position and faults as Filter with that criterion.
+  void FiltreTexte(std::string_view column, std::string_view texte);
+  void FiltreNombre(std::string_view column, double nombre);
+
  private:
   using Lignes = std::vector<std::uint32_t>;  // row numbers, ascending
 
@@ -62,11 +67,17 @@ class MemoryRecordset final : public Recordset {
     bool operator()(std::string_view a, std::string_view b) const;
   };
 
+  // Texts hashed as they stand, looked up from a view without a copy.
+  struct HashTexte {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+  };
+
   // The indexes of one column, each built on its first use.
   struct Index {
     bool texteConstruit = false;
     bool nombreConstruit = false;
-    std::unordered_map<std::string, Lignes> parTexte;
+    std::unordered_map<std::string, Lignes, HashTexte, std::equal_to<>> parTexte;
     std::unordered_map<double, Lignes> parNombre;  // numbers and numeric texts
     Lignes vrais, faux;                            // booleans, for bare numbers
   };
@@ -77,6 +88,9 @@ class MemoryRecordset final : public Recordset {
 
   void Evalue(const critere::Noeud& n, Lignes& out);
   void Cherche(const critere::Egalite& e, Lignes& out);
+  void ChercheTexte(std::size_t col, std::string_view texte, Lignes& out);
+  void ChercheNombre(std::size_t col, double nombre, Lignes& out);
+  void Remplace(Lignes& nouvelle);  // makes the rows worked out aside the filtered rows
   Index& IndexTexte(std::size_t col);
   Index& IndexNombre(std::size_t col);
   void Indexe(Index& ix, std::size_t col, std::uint32_t row, bool ajoute);

@@ -11,7 +11,7 @@
 
 namespace orvalis {
 
-Int16 iTauxTptNonSubroge;
+thread_local Int16 iTauxTptNonSubroge;
 
 MoteurCalcul::MoteurCalcul() {
   // Class_Initialize: six new empty sources, in this order, then the separators.

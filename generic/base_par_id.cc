@@ -2,6 +2,7 @@
 // from its source by lIdValeurBase.
 #include <string>
 
+#include "frame/filtre_egalite.h"
 #include "generic/base_designations.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
@@ -17,8 +18,6 @@ bool DateEffetAtteinte(const Value& dateEffet, const std::string& gPeriodeEncour
 
 namespace {
 
-std::string Id(Int32 id) { return std::to_string(id.value()); }
-
 double UneConstante(ContexteBase& c) {
   const Int32 id = c.Rubrique.lIdValeurBase;
   if (id <= 0) return 0;
@@ -26,7 +25,7 @@ double UneConstante(ContexteBase& c) {
   if (rs.RecordCount() == 0) return 0;
   double d = 0;
   rs.MoveFirst();
-  rs.Filter("IdConstante = " + Id(id));
+  FiltreId(rs, "IdConstante", id);
   if (!rs.Eof()) d = rs.Field("Valeur").NombreOuZero();
   rs.ClearFilter();
   return d;
@@ -38,7 +37,7 @@ double UneVariableSalarie(ContexteBase& c) {
   Recordset& rs = Source(c.RsVarSalaries, "RsVarSalaries");
   if (rs.RecordCount() == 0) return 0;
   rs.MoveFirst();
-  rs.Filter("IdVariable = " + Id(id));
+  FiltreId(rs, "IdVariable", id);
   if (rs.Eof()) {
     rs.ClearFilter();
     return 0;
@@ -57,7 +56,7 @@ double UnCumulParticulier(ContexteBase& c) {
   Recordset& rs = Source(c.m.gRsCumuls, "gRsCumuls");
   if (rs.RecordCount() == 0) return 0;
   rs.MoveFirst();
-  rs.Filter("Idcumul = " + Id(id));
+  FiltreId(rs, "Idcumul", id);
   const double d = rs.Field("PartSalariale").NombreOuZero();
   rs.ClearFilter();
   return d;

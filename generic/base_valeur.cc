@@ -64,8 +64,8 @@ double MethodeCalculG_Nouv::RechercheValeurBase(VarCalculSalarie& InfosSalaries,
                                                 const RsRef& RsVarSalaries,
                                                 SalarieCalculRubrique& Rubrique) {
   ContexteBase c{*this, this, InfosSalaries, RsVarSalaries, Rubrique};
-  const std::string sValeurBase = Rubrique.sValeurBase;
-  return ResoudBase(c, sValeurBase, false);
+  // The designation is read before any rule runs (ResoudBase finds the rule first).
+  return ResoudBase(c, Rubrique.sValeurBase, false);
 }
 
 }  // namespace orvalis

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "frame/filtre_egalite.h"
 #include "generic/base_designations.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 
@@ -22,8 +23,6 @@ struct ContexteCoefficient {
   SalarieCalculRubrique& Rubrique;
 };
 
-std::string Id(Int32 id) { return std::to_string(id.value()); }
-
 // A row's value as a coefficient: a percentage ("T") is divided by 100.
 double ValeurOuPourcentage(Recordset& rs) {
   const double d = rs.Field("Valeur").NombreOuZero();
@@ -35,7 +34,7 @@ double UneConstante(ContexteCoefficient& c) {
   Recordset& rs = Source(c.m.gRsConstantes, "gRsConstantes");
   if (rs.RecordCount() == 0) return 1;
   rs.MoveFirst();
-  rs.Filter("IdConstante = " + Id(c.lIdCoeffBase));
+  FiltreId(rs, "IdConstante", c.lIdCoeffBase);
   double d = 1;
   if (!rs.Eof()) d = ValeurOuPourcentage(rs);
   rs.ClearFilter();
@@ -47,7 +46,7 @@ double UneVariableSalarie(ContexteCoefficient& c) {
   if (c.lIdCoeffBase <= 0) return 1;
   Recordset& rs = Source(c.RsVarSalaries, "RsVarSalaries");
   if (rs.RecordCount() == 0) return 1;
-  rs.Filter("IdVariable = " + Id(c.lIdCoeffBase));
+  FiltreId(rs, "IdVariable", c.lIdCoeffBase);
   double d = 1;
   if (!rs.Eof() && DateEffetAtteinte(rs.Field("DateEffet"), c.m.gPeriodeEncours))
     d = ValeurOuPourcentage(rs);
@@ -61,7 +60,7 @@ double UnCumulParticulier(ContexteCoefficient& c) {
   Recordset& rs = Source(c.m.gRsCumuls, "gRsCumuls");
   if (rs.RecordCount() == 0) return 1;
   rs.MoveFirst();
-  rs.Filter("Idcumul = " + Id(c.lIdCoeffBase));
+  FiltreId(rs, "Idcumul", c.lIdCoeffBase);
   const double d = rs.Field("PartSalariale").NombreOuZero();
   rs.ClearFilter();
   return d;

@@ -1,6 +1,7 @@
 // Rate designations known on both sides: by id of a constant, a variable or a total, the
 // rate of the line's fund, and the amounts of another line.
 
+#include "frame/filtre_egalite.h"
 #include "generic/taux_regles.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
@@ -8,8 +9,6 @@
 namespace orvalis::taux {
 
 namespace {
-
-std::string Id(Int32 lId) { return std::to_string(lId.value()); }
 
 // "UNE CONSTANTE": Valeur as it stands, the kind from TauxMontant.
 double Constante(Contexte& c, const LigneTaux&) {
@@ -25,7 +24,7 @@ double Variable(Contexte& c, const LigneTaux&) {
   Recordset& rs = Source(c.RsVarSalaries, "RsVarSalaries");
   if (rs.RecordCount() == 0) return 0;
   rs.MoveFirst();
-  rs.Filter("IdVariable = " + Id(c.lId));
+  FiltreId(rs, "IdVariable", c.lId);
   double dValeur = 0;
   if (!rs.Eof()) {
     const std::string sEffet = rs.Field("Dateeffet").TexteOuVide();
@@ -46,7 +45,7 @@ double CumulParticulier(Contexte& c, const LigneTaux&) {
   Recordset& rs = Source(c.m.gRsCumuls, "gRsCumuls");
   if (rs.RecordCount() == 0) return 0;
   rs.MoveFirst();
-  rs.Filter("Idcumul = " + Id(c.lId));
+  FiltreId(rs, "Idcumul", c.lId);
   const double dValeur = rs.Field("PartSalariale").NombreOuZero();
   rs.ClearFilter();
   return dValeur;
@@ -59,7 +58,7 @@ double TauxOrganisme(Contexte& c, const LigneTaux&) {
   Recordset& rs = Source(c.m.gRsTaux, "gRsTaux");
   if (rs.RecordCount() == 0) return 0;
   rs.MoveFirst();
-  rs.Filter("IdTaux = " + Id(lIdTaux));
+  FiltreId(rs, "IdTaux", lIdTaux);
   double dValeur = 0;
   if (!rs.Eof()) dValeur = rs.Field(c.bPatronal ? "PartPatronale" : "PartSalariale").NombreOuZero();
   rs.ClearFilter();

@@ -50,8 +50,8 @@ std::span<const LigneTaux> TauxEnseignement();       // teaching allowances
 std::span<const LigneTaux> TauxDivers();             // the rest of the employee side
 
 // The tables of each side, in the order they are walked.
-std::vector<std::span<const LigneTaux>> TablesSalariales();
-std::vector<std::span<const LigneTaux>> TablesPatronales();
+const std::vector<std::span<const LigneTaux>>& TablesSalariales();
+const std::vector<std::span<const LigneTaux>>& TablesPatronales();
 
 // The first row named nom exactly, unless nom is one of exclus; null when none.
 const LigneTaux* TrouveTaux(const std::vector<std::span<const LigneTaux>>& tables,

@@ -13,9 +13,10 @@
 
 namespace orvalis {
 
-// The two process-wide decimal separator characters, set by DetecteSeparateurDecimal.
-extern char cSeparateurDecimal;
-extern char cAutreSeparateur;
+// The two decimal separator characters, set by DetecteSeparateurDecimal: one pair per thread,
+// shared by the engine objects of that thread.
+extern thread_local char cSeparateurDecimal;
+extern thread_local char cAutreSeparateur;
 
 // Rounds half away from zero to iNbDecimales places, through a decimal of 15 significant
 // digits, so that 1.005 at 2 places gives 1.01. A negative count of places is a Fault.

@@ -18,9 +18,10 @@
 
 namespace orvalis {
 
-// The process-wide percentage of the therapeutic part-time situation last met by the
-// preparation "NBRE_JOUR_TPT_NON_SUBROGE". Starts at 0.
-extern Int16 iTauxTptNonSubroge;
+// The percentage of the therapeutic part-time situation last met by the preparation
+// "NBRE_JOUR_TPT_NON_SUBROGE". Starts at 0. One per thread: the engine objects of a thread
+// share it, those of two threads never do.
+extern thread_local Int16 iTauxTptNonSubroge;
 
 class MoteurCalcul {
  public:

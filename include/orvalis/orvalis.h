@@ -123,7 +123,8 @@ int orvalis_engine_set_message_handler(orvalis_engine *engine, orvalis_message_f
 int orvalis_engine_message_count(orvalis_engine *engine, int *out);
 int orvalis_engine_message(orvalis_engine *engine, int index, const char **out);
 
-/* The process-wide percentage of the last therapeutic part-time situation (iTauxTptNonSubroge). */
+/* The percentage of the last therapeutic part-time situation (iTauxTptNonSubroge) met on the
+** calling thread: each thread has its own. */
 int orvalis_tpt_rate(int *out);
 
 /* ---- The two entry points ---------------------------------------------------------------- */
