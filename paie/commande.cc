@@ -90,6 +90,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
   std::string store, mois, dossier;
   int agents = kAgentsCommune;
   bool remplacer = false;
+  unsigned travailleurs = CoeursDisponibles();
 
   auto* demo = app.add_subcommand("demo", "create the sample commune in a new store");
   demo->add_option("STORE", store, "the store to create (a new file)")->required();
@@ -101,6 +102,8 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
   paie->add_option("MONTH", mois, "the month, as 2024-03")->required();
   paie->add_flag("--replace", remplacer, "compute a month already written again, replacing it");
   paie->add_option("--payslips", dossier, "also write the month's payslips into this folder");
+  paie->add_option("--jobs", travailleurs, "worker threads, one engine each (default: the number of cores)")
+      ->check(CLI::Range(1u, 1024u));
 
   auto* bulletins = app.add_subcommand("bulletins", "write the payslips of a computed month");
   bulletins->add_option("STORE", store, "the store")->required();
@@ -134,7 +137,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
                                         AfficheMois(cle)));
       const DonneesMois d = m->ChargeMois(cle);
       BarreProgression barre(erreurs, terminal);
-      ResultatMois r = CalculeMois(d, std::ref(barre));
+      ResultatMois r = CalculeMois(d, std::ref(barre), travailleurs);
       m->EcritMois(r, remplacer);
       Resume(r, sortie);
       if (!dossier.empty()) {
