@@ -154,6 +154,7 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMajEluPeriode", &H::dRechercheIndMajEluPeriode),
       Op("CalculSalaireBaseHS", &H::CalculSalaireBaseHS),
       Op("CalculSalaireBaseHS_Periode", &H::CalculSalaireBaseHS_Periode),
+      Op("dBaremeKilometrique", &H::dBaremeKilometrique),
 
       // ---- Other lookups of reference data (both engines) ------------------------------------
       Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),
