@@ -113,6 +113,15 @@ TEST_F(ElusLignesHistoriqueTest, RateChangeInsideTheMonth) {
   Lignes(kPleinN, 830, 817.182, kPleinH, 821, 808.32);
 }
 
+// 30 - iNBJ_PresenceA past 16 bits is a fault in both engines.
+TEST_F(ElusLignesHistoriqueTest, DayCountOverflowFaults) {
+  s.iNBJ_PresenceA = -32767;
+  sN = s;
+  sH = s;
+  EXPECT_FALSE(n.Appel_Methode_Calcul_General("TRAITEMENT INDICIAIRE ELUS", sN, rN, vars, vars));
+  EXPECT_FALSE(h.Appel_Methode_Calcul_General("TRAITEMENT INDICIAIRE ELUS", sH, rH, vars, vars));
+}
+
 // The month alone: in 2024 the current engine reads "INDMAJELU", the historic one keeps 821.
 TEST_F(ElusLignesHistoriqueTest, MonthAlone) {
   Calcule("TRAITEMENT INDICIAIRE ELUS MOIS");

@@ -1,12 +1,12 @@
 // Overtime and complementary hours: the historic engine beside the current one, one body
 // for both. Reference salaries: 23629.36 on the index of the month (400 x 59.0734),
 // 21620.86 on that of the month before (366 x 59.0734).
-#include "historic/historique_test_outils.h"
+#include "historic/lignes_test_outils.h"
 
 namespace orvalis::historique_test {
 namespace {
 
-class HeuresHistoriqueTest : public DeuxMoteurs {
+class HeuresHistoriqueTest : public DeuxLignes {
  protected:
   HeuresHistoriqueTest() {
     n.gRsConstantesFixesHistorique = NouveauRecordset({"Mois", "SmicHor", "HrsMois"});
@@ -26,19 +26,6 @@ class HeuresHistoriqueTest : public DeuxMoteurs {
     s.dBase_HSN = 23629.36;
     s.dBase_HSA = 21620.86;
     s.dDureeHebdoLegale = 35;
-  }
-  void Var(const std::string& code, double valeur) {
-    paie_test::AjouteVariable(vars, code, valeur, 0, Value(), "M");
-  }
-  // Both engines wrote the same line: hours, rate, amount, and no employer part.
-  void MemeLigne(double dHeures, double dTaux, double dMontant) {
-    for (const SalarieCalculRubrique* l : {&rN, &rH}) {
-      EXPECT_NEAR(l->dBase, dHeures, 1e-9);
-      EXPECT_NEAR(l->dTauxSalarial, dTaux, 1e-9);
-      EXPECT_NEAR(l->dMontantSalarial, dMontant, 1e-9);
-      EXPECT_EQ(l->dTauxPatronal, 0.0);
-      EXPECT_EQ(l->dMontantPatronal, 0.0);
-    }
   }
 };
 
