@@ -1,5 +1,5 @@
 // Overtime and complementary hours as one body for both engines: each engine's member calls
-// the line of its name here. Every name of the lines is read through the common frame.
+// the line of its name here.
 #ifndef ORVALIS_SALARY_HEURES_SUPP_H_
 #define ORVALIS_SALARY_HEURES_SUPP_H_
 

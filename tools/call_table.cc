@@ -152,9 +152,9 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculNombreJourDetachement", &H::CalculNombreJourDetachement),
       Op("CalculNombreJourAutresAbsences", &H::CalculNombreJourAutresAbsences),
       Op("dRechercheIndMajEluPeriode", &H::dRechercheIndMajEluPeriode),
+      Op("dBaremeKilometrique", &H::dBaremeKilometrique),
       Op("CalculSalaireBaseHS", &H::CalculSalaireBaseHS),
       Op("CalculSalaireBaseHS_Periode", &H::CalculSalaireBaseHS_Periode),
-      Op("dBaremeKilometrique", &H::dBaremeKilometrique),
 
       // ---- Other lookups of reference data (both engines) ------------------------------------
       Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),
