@@ -6,6 +6,7 @@
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
 #include "period/periode_outils.h"
+#include "salary/indemnites_partagees.h"
 #include "salary/salaire_outils.h"
 
 namespace orvalis {
@@ -31,26 +32,31 @@ Int16 JoursDeFormation(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries) 
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
-                                                             const RsRef& RsVarSalaries,
-                                                             SalarieCalculRubrique& Rubrique) {
+void indemnites::AllocationFormation(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
+                                     const RsRef& RsVarSalaries, SalarieCalculRubrique& Rubrique) {
   // The yearly pay of the minimum index with its residence allowance, over the hours of a
   // year.
-  const double dPoint = ConstanteFixe("Point");
-  const double dIndiceMinimum = FixeOuZero(*this, "IndMinRemuneration");
+  const double dPoint = m.ConstanteFixe("Point");
+  const double dIndiceMinimum = FixeOuZero(m, "IndMinRemuneration");
   const double dTraitement = Arrondi(dIndiceMinimum * dPoint, 2);
   double dResidence = 0;
   if (InfosSalaries.iZoneResid > 0) {
-    const double dIndiceResidence = ConstanteFixe("IndResid");
+    const double dIndiceResidence = m.ConstanteFixe("IndResid");
     dResidence = dIndiceMinimum < dIndiceResidence
                      ? Arrondi(dIndiceResidence * dPoint, 2) * InfosSalaries.iZoneResid / 100
                      : dTraitement * InfosSalaries.iZoneResid / 100;
   }
-  const double dHeuresAn = ConstanteFixe("HrsMois") * 12;
+  const double dHeuresAn = m.ConstanteFixe("HrsMois") * 12;
   const double dTaux = dHeuresAn == 0 ? 0 : (dTraitement + dResidence) / dHeuresAn;
 
-  const double dHeures = dRechercheValeur_Variable(RsVarSalaries, "HRSALLFOR");
+  const double dHeures = m.dRechercheValeur_Variable(RsVarSalaries, "HRSALLFOR");
   EcritLigne(Rubrique, dHeures, dTaux, Arrondi(dHeures * dTaux, 2));
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
+                                                             const RsRef& RsVarSalaries,
+                                                             SalarieCalculRubrique& Rubrique) {
+  indemnites::AllocationFormation(*this, InfosSalaries, RsVarSalaries, Rubrique);
 }
 
 // The days of training leave of the month, paid on the month's bound over 30 days.

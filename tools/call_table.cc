@@ -152,6 +152,7 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculNombreJourDetachement", &H::CalculNombreJourDetachement),
       Op("CalculNombreJourAutresAbsences", &H::CalculNombreJourAutresAbsences),
       Op("dRechercheIndMajEluPeriode", &H::dRechercheIndMajEluPeriode),
+      Op("dBaremeKilometrique", &H::dBaremeKilometrique),
       Op("CalculSalaireBaseHS", &H::CalculSalaireBaseHS),
       Op("CalculSalaireBaseHS_Periode", &H::CalculSalaireBaseHS_Periode),
 

@@ -134,6 +134,77 @@ class MethodeCalculG : public MoteurCalcul {
                                                     const RsRef& RsVarSalariesHisto,
                                                     SalarieCalculRubrique& Rubrique);
 
+  // ---- Officials, overtime and other allowances: the current engine's bodies (historic/) --
+  // The officials' lines on the fixed index (see dRechercheIndMajEluPeriode).
+  void CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& InfosSalaries,
+                                                   SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireElusPrecedent(VarCalculSalarie& InfosSalaries,
+                                                        SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& InfosSalaries,
+                                                            SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const RsRef& RsVarSalaries);
+  void CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                 const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
+                                     SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                     const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique,
+                                         const RsRef& RsVarSalaries, const std::string& sNomcalcul);
+  void CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique,
+                                             const RsRef& RsVarSalaries,
+                                             const RsRef& RsVarSalariesHisto,
+                                             const std::string& sNomcalcul);
+  void CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                              const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_PrimeInformatique(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsVarSalaries);
+  void CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_CreditMunicipal(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
+  void CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsVarSalaries);
+  void CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique);
+  // The mileage scale, as in the current engine.
+  double dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance, Int32 lKmCumule,
+                             double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
+                             double& dMontant);
+  // The month's treatment is the sum of the two cells dSalarie_MensuelA and N.
+  void CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                           const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
+                           const RsRef& RsSalariesHisto, bool bOption);
+  void CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
+                                          const RsRef& RsVarSalaries,
+                                          SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_MontantReference(VarCalculSalarie& InfosSalaries,
+                                       SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
+
   // ---- Contributions with the historic rule (historic/) ----------------------------------
   void CalculRubrique_ReductionHS(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                                   const RsRef& RsVarSalaries);
