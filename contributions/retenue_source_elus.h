@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "contributions/retenue_source_elus_detail.h"
 #include "orvalis/MoteurCalcul.h"
 
 namespace orvalis::elus {
@@ -12,6 +13,32 @@ namespace orvalis::elus {
 void Bareme(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dNetImposable,
             double dPeriodesAn, double& dTauxTranche, double& dTrancheBasse,
             double& dTrancheHaute, double& dConstante);
+
+// The frame of one payment period of the official, by sEluPeriodicite read as a text ("2",
+// "3", "4", any other monthly): the expenses allowance of a mandate, the ceiling of the
+// period, periods a year, months a period, and the coefficient of the scale's constants.
+void DonneesMandat(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double& dFraisMandat,
+                   double& dPlafondPeriode, double& dPeriodesAn, double& dMoisPeriode,
+                   double& dCoefBareme);
+
+// The rates of the new method into t: IRCANTEC "IRCTRA" and "IRCTRB", CSG "URSDCSG", URSSAF
+// on the whole ("URSRGMAL" + "URSRGVEU") and under the ceiling ("URSRGVIEP").
+void LitTaux(MoteurCalcul& m, MontantsRetenue& t);
+
+// The expenses of the principal remuneration: none on a net of 0 or less; else at most its
+// net when there are mandates, the whole allowance when there are none.
+void FraisPrincipal(MontantsRetenue& t, bool bMandats);
+
+// A mandate's expenses, at most its net, join the total; gives them (0 on a net of 0 or less).
+double FraisMandat(MontantsRetenue& t, double dNetMandat);
+
+// The tax of the period from the nets and expenses in t: the expenses kept (at most one and
+// a half allowances), the net taxable, its tranche of the scale, the whole euros, the tax.
+void Impot(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dPeriodesAn,
+           MontantsRetenue& t);
+
+// The pay line of the new method: the whole euros taxed and the tax.
+void EcritLigne(SalarieCalculRubrique& Rubrique, const MontantsRetenue& t);
 
 // A new, empty detail table of the historic withholding (rsRetenueALaSource).
 RsRef NouveauDetailRetenueSource();

@@ -154,6 +154,18 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMajEluPeriode", &H::dRechercheIndMajEluPeriode),
       Op("CalculSalaireBaseHS", &H::CalculSalaireBaseHS),
       Op("CalculSalaireBaseHS_Periode", &H::CalculSalaireBaseHS_Periode),
+      // Strike, daily benefits, differential allowance and the officials' new method.
+      Op("CalculRubrique_Greve", &H::CalculRubrique_Greve),
+      Op("CalculRubrique_Indemnites_journalieres", &H::CalculRubrique_Indemnites_journalieres),
+      Op("Calcul_Indemnites_journalieres", &H::Calcul_Indemnites_journalieres),
+      Op("CalculIJ_Periode", &H::CalculIJ_Periode),
+      Op("CalculRubrique_Indemnite_Differentielle", &H::CalculRubrique_Indemnite_Differentielle),
+      Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
+         &H::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
+      Op("EnregistreDetailRetenueSource_NouvelleMethode",
+         &H::EnregistreDetailRetenueSource_NouvelleMethode),
+      Op("CalculRetenueSource_DonneesMandat", &H::CalculRetenueSource_DonneesMandat),
+      Op("CalculRetenueSource_Bareme", &H::CalculRetenueSource_Bareme),
 
       // ---- Other lookups of reference data (both engines) ------------------------------------
       Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),
