@@ -2,6 +2,7 @@
 #ifndef ORVALIS_CONTRIBUTIONS_RETENUE_SOURCE_ELUS_H_
 #define ORVALIS_CONTRIBUTIONS_RETENUE_SOURCE_ELUS_H_
 
+#include <functional>
 #include <optional>
 
 #include "contributions/retenue_source_elus_detail.h"
@@ -29,6 +30,10 @@ void LitTaux(MoteurCalcul& m, MontantsRetenue& t);
 // net when there are mandates, the whole allowance when there are none.
 void FraisPrincipal(MontantsRetenue& t, bool bMandats);
 
+// The amounts of a mandate written back into its row, its expenses at 0 until worked out.
+void EcritMandat(Recordset& m, double dPlafond, double dCotisations, double dIrcA, double dIrcB,
+                 double dCsg, double dNet);
+
 // A mandate's expenses, at most its net, join the total; gives them (0 on a net of 0 or less).
 double FraisMandat(MontantsRetenue& t, double dNetMandat);
 
@@ -39,6 +44,16 @@ void Impot(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dPerio
 
 // The pay line of the new method: the whole euros taxed and the tax.
 void EcritLigne(SalarieCalculRubrique& Rubrique, const MontantsRetenue& t);
+
+// "RETENUE A LA SOURCE NOUVELLE METHODE" in the form of an engine: a new detail table
+// rsDetailNeuf on the line; for an opted official whose payment period bFinPeriode ends, the
+// frame of the period, the rates and the principal gross into t, then calcul works out the
+// principal remuneration and the mandates of rsAutresIndemnites, and the tax follows; the
+// detail rows in that form, and the pay line.
+void RetenueNouvelleMethode(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
+                            SalarieCalculRubrique& Rubrique, const RsRef& rsDetailNeuf,
+                            FormeDetail forme, const std::function<bool()>& bFinPeriode,
+                            const std::function<void(MontantsRetenue&, Recordset&)>& calcul);
 
 // A new, empty detail table of the historic withholding (rsRetenueALaSource).
 RsRef NouveauDetailRetenueSource();

@@ -141,6 +141,17 @@ void elus::FraisPrincipal(MontantsRetenue& t, bool bMandats) {
   t.dFraisPrincipal = t.dFraisTotal;
 }
 
+void elus::EcritMandat(Recordset& m, double dPlafond, double dCotisations, double dIrcA,
+                       double dIrcB, double dCsg, double dNet) {
+  m.SetField("MontantPlafond", Value(dPlafond));
+  m.SetField("MontantCotisations", Value(dCotisations));
+  m.SetField("MontantCotisationIrcantecTA", Value(dIrcA));
+  m.SetField("MontantCotisationIrcantecTB", Value(dIrcB));
+  m.SetField("MontantCotisationCSG", Value(dCsg));
+  m.SetField("MontantRemunerationNette", Value(dNet));
+  m.SetField("MontantTotalFraisInd", Value(0.0));
+}
+
 double elus::FraisMandat(MontantsRetenue& t, double dNetMandat) {
   if (dNetMandat <= 0) return 0;
   const double dFrais = std::min(dNetMandat, t.dFraisMandat);

@@ -111,13 +111,7 @@ void CalculeMandat(Recordset& m, Recordset& rsIrcantec, Recordset& rsUrssaf, dou
   const double dNet = dBrutMandat - dCotisations;
   t.dNetMandats += dNet;
 
-  m.SetField("MontantPlafond", Value(0.0));
-  m.SetField("MontantCotisations", Value(dCotisations));
-  m.SetField("MontantCotisationIrcantecTA", Value(dIrcA));
-  m.SetField("MontantCotisationIrcantecTB", Value(dIrcB));
-  m.SetField("MontantCotisationCSG", Value(dCsg));
-  m.SetField("MontantRemunerationNette", Value(dNet));
-  m.SetField("MontantTotalFraisInd", Value(0.0));
+  elus::EcritMandat(m, 0.0, dCotisations, dIrcA, dIrcB, dCsg, dNet);
   m.SetField("MontantCotisationUrssafPlaf", Value(dUrssafPlaf));
   m.SetField("MontantCotisationUrssafTot", Value(dUrssafTot));
 
@@ -125,6 +119,55 @@ void CalculeMandat(Recordset& m, Recordset& rsIrcantec, Recordset& rsUrssaf, dou
                    Nombre(m, "RetComplPatBrutePasSoumiseCsg");
 
   if (dNet > 0) m.SetField("MontantTotalFraisInd", Value(elus::FraisMandat(t, dNet)));
+}
+
+// The principal remuneration over the ceiling periods, with the employer's pension and the
+// URSSAF of an official subject to it, then each mandate (Salaire false).
+void PrincipalEtMandats(MethodeCalculG_Nouv& e, const VarCalculSalarie& InfosSalaries,
+                        elus::MontantsRetenue& t, Recordset& rsAutres) {
+  t.dCoefCsg = 1;
+  const double dBrutPrincipal = t.dBrutPrincipal;
+  // The principal remuneration brought to a full period.
+  double dBrutPlein = 0;
+  if (elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite) == 1) {
+    if (InfosSalaries.iNBJ_Presence_Total != 0)
+      dBrutPlein = dBrutPrincipal * 30 / InfosSalaries.iNBJ_Presence_Total.value();
+  } else if (InfosSalaries.iNBJ_Presence_Total_Periode_Elus != 0) {
+    dBrutPlein = dBrutPrincipal * 30 * t.dMoisPeriode /
+                 InfosSalaries.iNBJ_Presence_Total_Periode_Elus.value();
+  }
+
+  // The employer's share of the officials' pension funds is taxed as a benefit.
+  double dValSal = 0;
+  e.RechercheValeursListeCumul("FONCAR,CAREL", dValSal, t.dCotiPatRetraite);
+
+  const double D = t.dMoisPeriode * 30;
+  Recordset& rsIrcantec =
+      Source(InfosSalaries.RsPlafondIrcantecPeriodes, "RsPlafondIrcantecPeriodes");
+  const double dTrancheA = TrancheAPrincipal(rsIrcantec, t.dPlafondPeriode, dBrutPlein, D);
+  const double dTrancheB = Arrondi(dBrutPrincipal - dTrancheA, 2);
+  t.dIrcA = t.dTauxTA * dTrancheA / 100;
+  t.dIrcB = t.dTauxTB * dTrancheB / 100;
+
+  if (InfosSalaries.sCodeModele == "ELUMAIRESP" || InfosSalaries.bIndemniteEluCotiseUrssaf) {
+    const double dAssietteTot = Arrondi(e.dRechercheValeurCumul("ASSURSTOT", "S"), 2);
+    const double dAssiettePlaf = e.dRechercheValeurCumul("ASSURSTRA", "S");
+    // The ceiling rate stays rounded for the mandates below.
+    t.dTauxUrssafPlaf = Arrondi(t.dTauxUrssafPlaf, 2);
+    t.dUrssafTot = dAssietteTot * t.dTauxUrssafTot / 100;
+    t.dUrssafPlaf = t.dTauxUrssafPlaf * dAssiettePlaf / 100;
+    t.dUrssaf = t.dUrssafTot + t.dUrssafPlaf;
+  }
+  t.dCsg = (t.dCotiPatRetraite + dBrutPrincipal) * t.dCoefCsg * t.dTauxCsg / 100;
+  t.dNetPrincipal =
+      t.dCotiPatRetraite + dBrutPrincipal - (t.dIrcA + t.dIrcB + t.dCsg + t.dUrssaf);
+
+  elus::FraisPrincipal(t, rsAutres.RecordCount() > 0);
+
+  Recordset& rsUrssaf = Source(InfosSalaries.RsPlafondUrssafPeriodes, "RsPlafondUrssafPeriodes");
+  PourChaqueLigne(rsAutres, [&](Recordset& m) {
+    if (elus::EstFaux(m.Field("Salaire"))) CalculeMandat(m, rsIrcantec, rsUrssaf, D, t);
+  });
 }
 
 }  // namespace
@@ -136,77 +179,18 @@ RsRef MethodeCalculG_Nouv::EnregistreDetailRetenueSource_NouvelleMethode() {
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
     const RsRef& /*RsVariablesSalaries*/) {
-  elus::MontantsRetenue t;  // every amount at 0, one month a period
-  Rubrique.rsRetenueALaSourceNouvelleMethode = EnregistreDetailRetenueSource_NouvelleMethode();
-  Recordset& rsDetail = *Rubrique.rsRetenueALaSourceNouvelleMethode;
-  Recordset& rsAutres = Source(InfosSalaries.rsAutresIndemnites, "rsAutresIndemnites");
-
-  // Calculated when the official has opted for the withholding (iEluChoixImpot neither 1
-  // nor 2), at the end of a payment period or in the month the mandate ends.
-  const bool bOpte = InfosSalaries.iEluChoixImpot != 1 && InfosSalaries.iEluChoixImpot != 2;
-  auto FinPeriode = [&] {
+  // The period ends with its last month, or in the month the mandate ends.
+  const auto FinPeriode = [&] {
     return elus::FinDePeriode(elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite),
                               Mois(LireDate(gPeriodeEncours))) ||
            elus::DernierMoisMandat(InfosSalaries.sDateFin, gPeriodeEncours);
   };
-  if (bOpte && FinPeriode()) {
-    double dPeriodesAn = 0;
-    CalculRetenueSource_DonneesMandat(InfosSalaries, t.dFraisMandat, t.dPlafondPeriode,
-                                      dPeriodesAn, t.dMoisPeriode, t.dCoefBareme);
-    t.dFraisMax = t.dFraisMandat * 1.5;
-    elus::LitTaux(*this, t);
-    t.dCoefCsg = 1;
-
-    const double dBrutPrincipal =
-        dRechercheValeurCumul("BRUT", "S") - dRechercheValeurCumul("BASERAPPEL", "S");
-    t.dBrutPrincipal = dBrutPrincipal;
-    // The principal remuneration brought to a full period.
-    double dBrutPlein = 0;
-    if (elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite) == 1) {
-      if (InfosSalaries.iNBJ_Presence_Total != 0)
-        dBrutPlein = dBrutPrincipal * 30 / InfosSalaries.iNBJ_Presence_Total.value();
-    } else if (InfosSalaries.iNBJ_Presence_Total_Periode_Elus != 0) {
-      dBrutPlein = dBrutPrincipal * 30 * t.dMoisPeriode /
-                   InfosSalaries.iNBJ_Presence_Total_Periode_Elus.value();
-    }
-
-    // The employer's share of the officials' pension funds is taxed as a benefit.
-    double dValSal = 0;
-    RechercheValeursListeCumul("FONCAR,CAREL", dValSal, t.dCotiPatRetraite);
-
-    const double D = t.dMoisPeriode * 30;
-    Recordset& rsIrcantec =
-        Source(InfosSalaries.RsPlafondIrcantecPeriodes, "RsPlafondIrcantecPeriodes");
-    const double dTrancheA = TrancheAPrincipal(rsIrcantec, t.dPlafondPeriode, dBrutPlein, D);
-    const double dTrancheB = Arrondi(dBrutPrincipal - dTrancheA, 2);
-    t.dIrcA = t.dTauxTA * dTrancheA / 100;
-    t.dIrcB = t.dTauxTB * dTrancheB / 100;
-
-    if (InfosSalaries.sCodeModele == "ELUMAIRESP" || InfosSalaries.bIndemniteEluCotiseUrssaf) {
-      const double dAssietteTot = Arrondi(dRechercheValeurCumul("ASSURSTOT", "S"), 2);
-      const double dAssiettePlaf = dRechercheValeurCumul("ASSURSTRA", "S");
-      // The ceiling rate stays rounded for the mandates below.
-      t.dTauxUrssafPlaf = Arrondi(t.dTauxUrssafPlaf, 2);
-      t.dUrssafTot = dAssietteTot * t.dTauxUrssafTot / 100;
-      t.dUrssafPlaf = t.dTauxUrssafPlaf * dAssiettePlaf / 100;
-      t.dUrssaf = t.dUrssafTot + t.dUrssafPlaf;
-    }
-    t.dCsg = (t.dCotiPatRetraite + dBrutPrincipal) * t.dCoefCsg * t.dTauxCsg / 100;
-    t.dNetPrincipal =
-        t.dCotiPatRetraite + dBrutPrincipal - (t.dIrcA + t.dIrcB + t.dCsg + t.dUrssaf);
-
-    elus::FraisPrincipal(t, rsAutres.RecordCount() > 0);
-
-    Recordset& rsUrssaf = Source(InfosSalaries.RsPlafondUrssafPeriodes, "RsPlafondUrssafPeriodes");
-    PourChaqueLigne(rsAutres, [&](Recordset& m) {
-      if (elus::EstFaux(m.Field("Salaire"))) CalculeMandat(m, rsIrcantec, rsUrssaf, D, t);
-    });
-
-    elus::Impot(*this, InfosSalaries, dPeriodesAn, t);
-  }
-
-  elus::EcritDetailNouvelleMethode(rsDetail, rsAutres, t, elus::FormeDetail::kActuelle);
-  elus::EcritLigne(Rubrique, t);
+  elus::RetenueNouvelleMethode(
+      *this, InfosSalaries, Rubrique, EnregistreDetailRetenueSource_NouvelleMethode(),
+      elus::FormeDetail::kActuelle, FinPeriode,
+      [&](elus::MontantsRetenue& t, Recordset& rsAutres) {
+        PrincipalEtMandats(*this, InfosSalaries, t, rsAutres);
+      });
 }
 
 }  // namespace orvalis

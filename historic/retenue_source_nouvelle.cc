@@ -24,14 +24,36 @@ void CalculeMandat(Recordset& m, double dTotal, elus::MontantsRetenue& t) {
   const double dNet = dBrut - dCotisations;
   t.dNetMandats += dNet;
 
-  m.SetField("MontantPlafond", Value(dTrancheA));
-  m.SetField("MontantCotisations", Value(dCotisations));
-  m.SetField("MontantCotisationIrcantecTA", Value(dIrcA));
-  m.SetField("MontantCotisationIrcantecTB", Value(dIrcB));
-  m.SetField("MontantCotisationCSG", Value(dCsg));
-  m.SetField("MontantRemunerationNette", Value(dNet));
-  m.SetField("MontantTotalFraisInd", Value(0.0));
+  // Tranche A stands in the row's ceiling column.
+  elus::EcritMandat(m, dTrancheA, dCotisations, dIrcA, dIrcB, dCsg, dNet);
   if (dNet > 0) m.SetField("MontantTotalFraisInd", Value(elus::FraisMandat(t, dNet)));
+}
+
+// The principal remuneration and every row of the mandates on the ratio of the period's
+// ceiling to the remuneration of reference; URSSAF on a mayor's principal remuneration.
+void PrincipalEtMandats(MoteurCalcul& e, const VarCalculSalarie& InfosSalaries,
+                        elus::MontantsRetenue& t, Recordset& rsAutres) {
+  t.dCoefCsg = e.dRechercheValeur_Constantes(e.gRsConstantes, "~TXCSGPROF");
+  // The remuneration of reference: every allowance of the period and the principal one.
+  double dMontantTotalIndemnites = 0;
+  elus::PourChaqueLigne(rsAutres, [&](Recordset& m) {
+    dMontantTotalIndemnites += m.Field("MontantRemunerationBrute").Nombre();
+  });
+  const double dTotal = dMontantTotalIndemnites + t.dBrutPrincipal;
+
+  const double dTrancheA = elus::TrancheAProrata(t.dBrutPrincipal, t.dPlafondPeriode, dTotal);
+  t.dIrcA = t.dTauxTA * dTrancheA / 100;
+  t.dIrcB = t.dTauxTB * (t.dBrutPrincipal - dTrancheA) / 100;
+  if (InfosSalaries.sCodeModele == "ELUMAIRESP") {
+    t.dUrssafTot = e.dRechercheValeurCumul("ASSURSTOT", "S") * t.dTauxUrssafTot / 100;
+    t.dUrssafPlaf = t.dTauxUrssafPlaf * e.dRechercheValeurCumul("ASSURSPLA", "S") / 100;
+    t.dUrssaf = t.dUrssafTot + t.dUrssafPlaf;
+  }
+  t.dCsg = t.dBrutPrincipal * t.dCoefCsg * t.dTauxCsg / 100;
+  t.dNetPrincipal = t.dBrutPrincipal - (t.dIrcA + t.dIrcB + t.dCsg + t.dUrssaf);
+  elus::FraisPrincipal(t, rsAutres.RecordCount() > 0);
+
+  elus::PourChaqueLigne(rsAutres, [&](Recordset& m) { CalculeMandat(m, dTotal, t); });
 }
 
 }  // namespace
@@ -60,49 +82,17 @@ void MethodeCalculG::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries,
 void MethodeCalculG::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
     const RsRef& /*RsVariablesSalaries*/) {
-  elus::MontantsRetenue t;  // every amount at 0, one month a period
-  Rubrique.rsRetenueALaSourceNouvelleMethode = EnregistreDetailRetenueSource_NouvelleMethode();
-  Recordset& rsDetail = *Rubrique.rsRetenueALaSourceNouvelleMethode;
-  Recordset& rsAutres = Source(InfosSalaries.rsAutresIndemnites, "rsAutresIndemnites");
-
-  // Calculated when the official has opted for the withholding, at the end of a payment
-  // period only: a mandate ended within the period waits for its end.
-  const bool bOpte = InfosSalaries.iEluChoixImpot != 1 && InfosSalaries.iEluChoixImpot != 2;
-  if (bOpte && elus::FinDePeriode(elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite),
-                                  Mois(LireDate(gPeriodeEncours)))) {
-    double dPeriodesAn = 0;
-    elus::DonneesMandat(*this, InfosSalaries, t.dFraisMandat, t.dPlafondPeriode, dPeriodesAn,
-                        t.dMoisPeriode, t.dCoefBareme);
-    t.dFraisMax = t.dFraisMandat * 1.5;
-    elus::LitTaux(*this, t);
-    t.dCoefCsg = dRechercheValeur_Constantes(gRsConstantes, "~TXCSGPROF");
-
-    t.dBrutPrincipal = dRechercheValeurCumul("BRUT", "S") - dRechercheValeurCumul("BASERAPPEL", "S");
-    // The remuneration of reference: every allowance of the period and the principal one.
-    double dMontantTotalIndemnites = 0;
-    elus::PourChaqueLigne(rsAutres, [&](Recordset& m) {
-      dMontantTotalIndemnites += m.Field("MontantRemunerationBrute").Nombre();
-    });
-    const double dTotal = dMontantTotalIndemnites + t.dBrutPrincipal;
-
-    const double dTrancheA = elus::TrancheAProrata(t.dBrutPrincipal, t.dPlafondPeriode, dTotal);
-    t.dIrcA = t.dTauxTA * dTrancheA / 100;
-    t.dIrcB = t.dTauxTB * (t.dBrutPrincipal - dTrancheA) / 100;
-    if (InfosSalaries.sCodeModele == "ELUMAIRESP") {
-      t.dUrssafTot = dRechercheValeurCumul("ASSURSTOT", "S") * t.dTauxUrssafTot / 100;
-      t.dUrssafPlaf = t.dTauxUrssafPlaf * dRechercheValeurCumul("ASSURSPLA", "S") / 100;
-      t.dUrssaf = t.dUrssafTot + t.dUrssafPlaf;
-    }
-    t.dCsg = t.dBrutPrincipal * t.dCoefCsg * t.dTauxCsg / 100;
-    t.dNetPrincipal = t.dBrutPrincipal - (t.dIrcA + t.dIrcB + t.dCsg + t.dUrssaf);
-    elus::FraisPrincipal(t, rsAutres.RecordCount() > 0);
-
-    elus::PourChaqueLigne(rsAutres, [&](Recordset& m) { CalculeMandat(m, dTotal, t); });
-    elus::Impot(*this, InfosSalaries, dPeriodesAn, t);
-  }
-
-  elus::EcritDetailNouvelleMethode(rsDetail, rsAutres, t, elus::FormeDetail::kHistorique);
-  elus::EcritLigne(Rubrique, t);
+  // The month test alone: a mandate ended within the period waits for its end.
+  const auto FinPeriode = [&] {
+    return elus::FinDePeriode(elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite),
+                              Mois(LireDate(gPeriodeEncours)));
+  };
+  elus::RetenueNouvelleMethode(
+      *this, InfosSalaries, Rubrique, EnregistreDetailRetenueSource_NouvelleMethode(),
+      elus::FormeDetail::kHistorique, FinPeriode,
+      [&](elus::MontantsRetenue& t, Recordset& rsAutres) {
+        PrincipalEtMandats(*this, InfosSalaries, t, rsAutres);
+      });
 }
 
 }  // namespace orvalis
