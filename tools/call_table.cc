@@ -5,6 +5,8 @@
 // one row per engine class (the entry points); a member of the common base serves both.
 #include "tools/call_table.h"
 
+#include "absences/montant_brut_mois.h"
+
 namespace orvalis::tools {
 
 namespace appel {
@@ -177,6 +179,8 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMinHistorique", &M::dRechercheIndMinHistorique),
       Op("dRechercheHistoriqueMois", &M::dRechercheHistoriqueMois),
       Op("dRechercheSmicHistorique", &M::dRechercheSmicHistorique),
+      // The gross of a month in the employee's pay history, one body for both engines.
+      Op("dMontantBrutMois", &dMontantBrutMois),
       // The officials' reference index and the allowance of an earlier month.
       Op("dRechercheIndMajElu", &N::dRechercheIndMajElu),
       Op("dRechercheIndMajEluPeriode", &N::dRechercheIndMajEluPeriode),

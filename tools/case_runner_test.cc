@@ -203,13 +203,17 @@ TEST(CallTableTest, TheHistoricFormsAreReachedWithTheirEngine) {
          "rubrique": {"sValeurBase": "TRAITEMENT DE BASE DU MOIS", "sCodeRubrique": "RETABSENCETR"}},
         {"call": "CalculRubrique_Greve", "args": ["$salarie", "$rubrique", [], "N", null, null]},
         {"call": "CalculRubrique_Indemnite_Differentielle", "args": ["$salarie", "$rubrique"]},
-        {"call": "EnregistreDetailRetenueSource_NouvelleMethode", "args": []}]})");
+        {"call": "EnregistreDetailRetenueSource_NouvelleMethode", "args": []},
+        {"call": "dMontantBrutMois",
+         "args": [{"columns": ["Mois", "MtBrut"], "rows": [["202402", 1234.565], ["202403", 2000]]},
+                  "15/02/2024"]}]})");
   // The strike counters whatever the code: 2 x 3000 / 30.
   EXPECT_EQ(j["steps"][1]["rubrique"]["dBase"].get<double>(), 3000.0);
   EXPECT_EQ(j["steps"][1]["rubrique"]["dMontantSalarial"].get<double>(), -200.0);
   // An index of 150, under the threshold of 200: nothing due.
   EXPECT_EQ(j["steps"][2]["rubrique"]["dMontantSalarial"].get<double>(), 0.0);
   EXPECT_EQ(j["steps"][3]["result"]["columns"].size(), 20u);
+  EXPECT_EQ(j["steps"][4]["result"].get<double>(), 1234.57);  // February's gross, to the cent
 }
 
 // gRsBaremeTauxPAS and gRsConstantesHistorique named with the historic engine: exit 2 and
