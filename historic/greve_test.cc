@@ -34,6 +34,13 @@ class GreveHistoriqueTest : public DeuxMoteurs {
     ASSERT_TRUE(h.Appel_Methode_Calcul_General(sNom, sH, rH, vars, varsHisto, histo));
   }
 
+  // The line by name on both engines, the same base and amount expected of each.
+  void Both(const std::string& sNom, double dBase, double dMontant) {
+    Greve(sNom);
+    Ligne(rN, dBase, dMontant);
+    Ligne(rH, dBase, dMontant);
+  }
+
   static void Ligne(const SalarieCalculRubrique& l, double dBase, double dMontant) {
     EXPECT_DOUBLE_EQ(l.dBase, dBase);
     EXPECT_EQ(l.dTauxSalarial, 0.0);
@@ -50,9 +57,7 @@ TEST_F(GreveHistoriqueTest, DaysAndHalfDaysTheSameOnBoth) {
   Cumul("BASE", 3000);
   s.dGreveJours = 2;
   s.dGreveDemiJours = 1;
-  Greve("GREVE");
-  Ligne(rN, 3000, -250);
-  Ligne(rH, 3000, -250);
+  Both("GREVE", 3000, -250);
 }
 
 // Hours over the month's hours and "HEURESA": 3 x 3000 / (140 + 10) = 60, on both; with no
@@ -62,20 +67,14 @@ TEST_F(GreveHistoriqueTest, HoursOverTheMonthsHoursAndHeuresA) {
   s.dGreveHeures = 3;
   s.dHeuresMois = 140;
   paie_test::AjouteVariable(vars, "HEURESA", 10, 0, Value(), "M");
-  Greve("GREVE");
-  Ligne(rN, 3000, -60);
-  Ligne(rH, 3000, -60);
+  Both("GREVE", 3000, -60);
   s.dHeuresMois = -10;  // with "HEURESA" 10: no hours
-  Greve("GREVE");
-  Ligne(rN, 3000, 0);
-  Ligne(rH, 3000, 0);
+  Both("GREVE", 3000, 0);
 }
 
 TEST_F(GreveHistoriqueTest, NothingCountedGivesTheBaseAndNoAmount) {
   Cumul("BASE", 3000);
-  Greve("GREVE");
-  Ligne(rN, 3000, 0);
-  Ligne(rH, 3000, 0);
+  Both("GREVE", 3000, 0);
   EXPECT_FALSE(std::signbit(rH.dMontantSalarial));
 }
 
@@ -151,9 +150,7 @@ TEST_F(GreveHistoriqueTest, MonthBeforeInJanuaryIsDecember) {
   s.dGreveHeuresPrec = 2;
   HeuresHistorique("202401", 999);
   HeuresHistorique("202312", 120);
-  Greve("GREVE MOIS PRECEDENT");
-  Ligne(rN, 3000, -50);
-  Ligne(rH, 3000, -50);
+  Both("GREVE MOIS PRECEDENT", 3000, -50);
 }
 
 }  // namespace

@@ -32,6 +32,14 @@ class DifferentielleHistoriqueTest : public DeuxMoteurs {
                                                nullptr));
   }
 
+  // Both lines after Calcule: the current engine's amount dN, the historic one's dH.
+  void Amounts(double dN, double dH) {
+    Calcule();
+    Ligne(rN, sN, dN);
+    Ligne(rH, sH, dH);
+  }
+  void Amounts(double D) { Amounts(D, D); }
+
   static void Ligne(const SalarieCalculRubrique& l, const VarCalculSalarie& v, double D) {
     EXPECT_EQ(l.dBase, 0.0);
     EXPECT_EQ(l.dTauxSalarial, 0.0);
@@ -47,17 +55,13 @@ class DifferentielleHistoriqueTest : public DeuxMoteurs {
 TEST_F(DifferentielleHistoriqueTest, WholeMonthInTheOldCell) {
   s.iNBJ_PresenceA = 30;
   s.iNBJ_PresenceIATA = 30;
-  Calcule();
-  Ligne(rN, sN, 800);
-  Ligne(rH, sH, 800);
+  Amounts(800);
 }
 
 TEST_F(DifferentielleHistoriqueTest, WholeMonthInTheNewCell) {
   s.iNBJ_PresenceN = 30;
   s.iNBJ_PresenceIATN = 30;
-  Calcule();
-  Ligne(rN, sN, 800);
-  Ligne(rH, sH, 800);
+  Amounts(800);
 }
 
 // The index changes on the 13th, treatment at 80 %: 12 days old, 18 new of which 3 of CFA.
@@ -72,9 +76,7 @@ TEST_F(DifferentielleHistoriqueTest, IndexChangeInsideTheMonth) {
   s.iNBJ_PresenceIATA = 12;
   s.iNBJ_PresenceINTA = 18;
   s.iNBJ_CFAINTA = 3;
-  Calcule();
-  Ligne(rN, sN, 296);
-  Ligne(rH, sH, 296);
+  Amounts(296);
 }
 
 // Training, CPA and leave of office are taken off in each cell: 30 - 2 - 3 - 4 = 21 days,
@@ -87,9 +89,7 @@ TEST_F(DifferentielleHistoriqueTest, EachCellsAbsences) {
   s.iNBJ_CPAN = 3;
   s.iNBJ_DispoOfficeN = 4;
   s.iNBJ_90PourCentTraitementIATA = 5;
-  Calcule();
-  Ligne(rH, sH, 260);
-  Ligne(rN, sN, 0);  // no day in the current quadrants
+  Amounts(0, 260);  // no day in the current quadrants
 }
 
 // Ten half-pay days of thirty: 20 x 60 = 1200, and back at half weight 1800 / 2 x 10 / 30 =
@@ -100,35 +100,27 @@ TEST_F(DifferentielleHistoriqueTest, HalfPayDaysAtHalfWeight) {
   s.iNBJ_PresenceIATA = 30;
   s.iNBJ_DemiTraitementIATA = 10;
   s.dCoefficient_DemiTraitement = 0.5;
-  Calcule();
-  Ligne(rN, sN, 500);
-  Ligne(rH, sH, 500);
+  Amounts(500);
   s.dCoefficient_DemiTraitement = 0;
-  Calcule();
-  Ligne(rN, sN, 200);
-  Ligne(rH, sH, 200);
+  Amounts(200);
 }
 
 TEST_F(DifferentielleHistoriqueTest, NoDayNoFloor) {
   s.dMt_IndemniteDifferentielle = 99;
-  Calcule();
-  Ligne(rN, sN, 0);
-  Ligne(rH, sH, 0);
+  Amounts(0);
 }
 
-// An index at the threshold (200 when "INDNONIMR" is absent), and a month without hours in
-// the totals: nothing is due.
-TEST_F(DifferentielleHistoriqueTest, ThresholdAndHours) {
+// An index at the threshold (200 when "INDNONIMR" is absent) gives nothing; one above it
+// the whole 800; the constant moves the threshold.
+TEST_F(DifferentielleHistoriqueTest, IndexThreshold) {
   s.iNBJ_PresenceA = 30;
+  s.iNBJ_PresenceIATA = 30;
   s.dIndiceMajoreM = 200;
-  Calcule();
-  Ligne(rH, sH, 0);
+  Amounts(0);
   s.dIndiceMajoreM = 200.01;
-  Calcule();
-  Ligne(rH, sH, 800);
+  Amounts(800);
   Constante("INDNONIMR", 250);
-  Calcule();
-  Ligne(rH, sH, 0);
+  Amounts(0);
 }
 
 // The month's base against the floor of 1800: at it, nothing; one cent under, one cent;
@@ -145,21 +137,13 @@ TEST_F(DifferentielleHistoriqueTest, BaseAgainstTheFloor) {
     Cumul("BASERAPPEL", rappel);
   };
   Totaux(151.67, 1800, 0);
-  Calcule();
-  Ligne(rN, sN, 0);
-  Ligne(rH, sH, 0);
+  Amounts(0);
   Totaux(151.67, 1799.99, 0);
-  Calcule();
-  Ligne(rN, sN, 0.01);
-  Ligne(rH, sH, 0.01);
+  Amounts(0.01);
   Totaux(151.67, 2000, 300);
-  Calcule();
-  Ligne(rN, sN, 100);
-  Ligne(rH, sH, 100);
+  Amounts(100);
   Totaux(0, 1000, 0);
-  Calcule();
-  Ligne(rN, sN, 0);
-  Ligne(rH, sH, 0);
+  Amounts(0);
 }
 
 // The days are counted in 16 bits: 32767 days less -1 of CFA overflows, a fault.
