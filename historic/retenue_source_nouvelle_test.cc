@@ -247,6 +247,27 @@ TEST_F(RetenueNouvelleDeuxMoteurs, NotOptedGivesZero) {
   }
 }
 
+// Nothing paid: a reference of 0, under the ceiling, so no division; no expenses on a net
+// of 0. A gross of 20 alone: net 20 - 0.56 - 1.3362 = 18.1038, the full allowance 50 all the
+// same, a taxable -31.8962 kept in the detail and 0 whole euros taxed.
+TEST_F(RetenueNouvelleDeuxMoteurs, NothingOrLittlePaid) {
+  m.gRsCumuls = Cumuls({{"BRUT", 0.0, 0.0}, {"BASERAPPEL", 0.0, 0.0}});
+  Partage();
+  Calcule();
+  Ligne(rH, 0, 0);
+  EXPECT_NEAR(Detail(0, "FraisEmploi"), 0, kEps);
+  EXPECT_NEAR(Detail(1, "FraisEmploiRetenue"), 0, kEps);
+  m.gRsCumuls = Cumuls({{"BRUT", 20.0, 0.0}, {"BASERAPPEL", 0.0, 0.0}});
+  Partage();
+  Calcule();
+  Ligne(rH, 0, 0);
+  EXPECT_NEAR(Detail(0, "RemunerationNette"), 18.1038, 1e-9);
+  EXPECT_NEAR(Detail(0, "FraisEmploi"), 50, kEps);
+  EXPECT_NEAR(Detail(1, "NetImposable"), 18.1038, 1e-9);
+  EXPECT_NEAR(Detail(1, "NetImposableRetenue"), 0, kEps);
+  EXPECT_NEAR(Detail(1, "TauxImposition"), 0, kEps);
+}
+
 // The public frame and scale are the current engine's numbers.
 TEST_F(RetenueNouvelleDeuxMoteurs, FrameAndScaleAsTheCurrentEngine) {
   s.sEluPeriodicite = "3";
