@@ -238,6 +238,39 @@ class MethodeCalculG : public MoteurCalcul {
   void CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
                                           SalarieCalculRubrique& Rubrique,
                                           const RsRef& RsVariablesSalaries);
+
+  // ---- Strike, daily benefits, differential allowance, officials' new method (h3) --------
+  // Strike counters only; the treatment of the month before net of dMtRetenueTbiMoisPrec.
+  void CalculRubrique_Greve(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                            const RsRef& RsVarSalaries, const std::string& sVariante,
+                            const RsRef& RsSalariesHisto, const RsRef& RsVarSalariesHisto);
+  // Subrogated benefits only, from the three slots of the record.
+  void CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
+                                              SalarieCalculRubrique& Rubrique,
+                                              const RsRef& RsSalariesHisto);
+  void Calcul_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique,
+                                      const RsRef& RsSalariesHisto);
+  // Slot NumIJ spread over its months against the month's total "BASE", always capped.
+  void CalculIJ_Periode(VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
+                        Int16 NumIJ, SalarieCalculRubrique& Rubrique);
+  // The first generation, on the two cells of the month.
+  void CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique);
+  // The earlier form of the new method: one ceiling ratio, no URSSAF on the mandates, no
+  // employer's pension, a shorter detail table.
+  void CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& InfosSalaries,
+                                                          SalarieCalculRubrique& Rubrique,
+                                                          const RsRef& RsVariablesSalaries);
+  RsRef EnregistreDetailRetenueSource_NouvelleMethode();
+  // As in the current engine.
+  void CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries, double& dFraisMandat,
+                                         double& dPlafondPeriode, double& dPeriodesAn,
+                                         double& dMoisPeriode, double& dCoefBareme);
+  void CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries, double dNetImposable,
+                                  double dPeriodesAn, double& dTauxTranche,
+                                  double& dTrancheBasse, double& dTrancheHaute,
+                                  double& dConstante);
 };
 
 }  // namespace orvalis
