@@ -154,6 +154,11 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMajEluPeriode", &H::dRechercheIndMajEluPeriode),
       Op("CalculSalaireBaseHS", &H::CalculSalaireBaseHS),
       Op("CalculSalaireBaseHS_Periode", &H::CalculSalaireBaseHS_Periode),
+      Op("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
+         &H::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple),
+      Op("CalculCoefficientDemiTraitement", &H::CalculCoefficientDemiTraitement),
+      Op("dCoefficientIndemnitaireDemiTraitement", &H::dCoefficientIndemnitaireDemiTraitement),
+      Op("dMontantProratiseSuivantDemiTraitement", &H::dMontantProratiseSuivantDemiTraitement),
 
       // ---- Other lookups of reference data (both engines) ------------------------------------
       Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),
