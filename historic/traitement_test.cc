@@ -230,5 +230,29 @@ TEST_F(TraitementHistorique, WeeklyScheduleOverTheWholeMonth) {
   EXPECT_NEAR(sH.dSalarie_MensuelN - s.dSalarie_MensuelN, 600.576666666667, 1e-9);
 }
 
+// Where they differ: a change of hours on the 16th, from full time to 80 %. The current
+// engine pays each half of the month at its hours (1 and 6/7); the historic one has one
+// treatment coefficient for the month, that of the month's post, 6/7.
+TEST_F(TraitementHistorique, HoursChangeInsideTheMonth) {
+  s.sDateChangementHeures = "16/03/2024";
+  s.dTauxPoste = 80;
+  s.dBonification = 15;
+  Prepare();
+  ASSERT_EQ(sN.iNBJ_PresenceINTA, 15);
+  ASSERT_EQ(sN.iNBJ_PresenceINTN, 15);
+  ASSERT_EQ(sH.iNBJ_PresenceN, 30);
+
+  Ligne("TRAITEMENT INDICIAIRE MOIS");
+  // Current: 1/2 x 1801.73 x 1 + 1/2 x 1801.73 x 6/7 = 900.865 + 772.17 = 1673.035.
+  // Historic: 1801.73 x 6/7 = 1544.34.
+  Attendu(rN, 1801.73, 366, 1673.035);
+  Attendu(rH, 1801.73, 366, 1544.34);
+
+  Ligne("BONIFICIATION INDICIAIRE");
+  // Current: 73.84 x (6/7 x 15 + 1 x 15) / 30 = 68.565714; historic 73.84 x 6/7 = 63.291429.
+  Attendu(rN, 73.84, 15, 73.84 * (6.0 / 7 * 15 + 15) / 30);
+  Attendu(rH, 73.84, 15, 73.84 * 6 / 7);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test
