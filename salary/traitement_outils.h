@@ -3,8 +3,6 @@
 #ifndef ORVALIS_SALARY_TRAITEMENT_OUTILS_H_
 #define ORVALIS_SALARY_TRAITEMENT_OUTILS_H_
 
-#include <initializer_list>
-
 #include "orvalis/MoteurCalcul.h"
 
 namespace orvalis::salaire {
@@ -64,14 +62,6 @@ struct TotauxDuMois {
 };
 TotauxDuMois TotauxQuatreQuarts(const VarCalculSalarie& s);
 TotauxDuMois TotauxDeuxCellules(const VarCalculSalarie& s);
-
-// The sum of a list of amounts, from the first to the last.
-template <typename Terme>
-double Somme(std::initializer_list<Quart> cellules, Terme terme) {
-  double d = 0;
-  for (const Quart& q : cellules) d = d + terme(q);
-  return d;
-}
 
 // The real salary of the quadrant for its days: (presence - (C x dAbsenceNS + iAbsents)) x
 // real salary / (C x 30). The caller checks that C is not 0.
