@@ -174,5 +174,17 @@ TEST_F(IndemnitesHistorique, TrainingAllowance) {
   Attendu(rH, 20, 0, 1312.74);
 }
 
+// February 2024, a situation "N" from the 15th to the 29th: its end counts as the 30th,
+// 16 days; Round2(1969.11 x 16 / 30 = 1050.192) = 1050.19.
+TEST_F(IndemnitesHistorique, TrainingAllowanceInFebruary) {
+  n.gPeriodeEncours = h.gPeriodeEncours = "01/02/2024";
+  Constante("INDMAXFORM", 400);
+  s.rsSituationsExceptionnelles = periode_test::Situations({{"N", "15/02/2024", "29/02/2024"}});
+  Prepare();
+  Ligne("INDEMNITE DE FORMATION");
+  Attendu(rN, 16, 0, 1050.19);
+  Attendu(rH, 16, 0, 1050.19);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test
