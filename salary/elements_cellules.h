@@ -82,8 +82,8 @@ void RubriqueIndemniteCoordination(const DemiMois& d, SalarieCalculRubrique& Rub
 // ---- Residence allowance, family supplement ----------------------------------------------
 // What the residence allowance reads of the month: the groups of cells that share a
 // treatment coefficient, the cells in the order their real salaries add up, then in the
-// order their salaries of the days add up, the totals, and whether the month's decal in
-// days (dNB_Jours_Max_Decalage_Mois) lets the allowance be paid.
+// order their salaries of the days add up, the totals, and whether the record lets the
+// allowance be paid (the current engine: dNB_Jours_Max_Decalage_Mois not 0).
 struct MoisResidence {
   std::vector<std::vector<Quart>> heures;
   std::vector<Quart> reels;
