@@ -1,60 +1,71 @@
-// Allowances and deductions of the historic engine with the current engine's bodies. The
-// MGEN line reads the treatment of the month in two cells.
+// The residence allowance, the family supplement and the other allowances of the historic
+// engine: the current engine's bodies over the two cells of the month.
 #include "orvalis/MethodeCalculG.h"
-#include "salary/indemnites_partagees.h"
+#include "salary/elements_cellules.h"
 
 namespace orvalis {
 
-void MethodeCalculG::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/,
-                                                      SalarieCalculRubrique& Rubrique,
-                                                      const RsRef& RsVarSalaries) {
-  indemnites::PrimeInformatique(*this, Rubrique, RsVarSalaries);
+using salaire::CelluleAncienne;
+using salaire::CelluleNouvelle;
+
+// One group of hours; the real salaries old index first, the salaries of the days new index
+// first, as in the four quadrants.
+void MethodeCalculG::CalculRubrique_IndemniteResidence(VarCalculSalarie& InfosSalaries,
+                                                       SalarieCalculRubrique& Rubrique) {
+  VarCalculSalarie& s = InfosSalaries;
+  salaire::RubriqueIndemniteResidence(*this, s, Rubrique,
+                                      {{{CelluleAncienne(s), CelluleNouvelle(s)}},
+                                       {CelluleAncienne(s), CelluleNouvelle(s)},
+                                       {CelluleNouvelle(s), CelluleAncienne(s)},
+                                       salaire::TotauxDeuxCellules(s),
+                                       true});
 }
 
-void MethodeCalculG::CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
-                                                    SalarieCalculRubrique& Rubrique) {
-  indemnites::FondsSolidarite(*this, InfosSalaries, Rubrique);
+void MethodeCalculG::CalculRubrique_SupplementFamilial(VarCalculSalarie& InfosSalaries,
+                                                       SalarieCalculRubrique& Rubrique) {
+  VarCalculSalarie& s = InfosSalaries;
+  salaire::RubriqueSupplementFamilial(*this, s, Rubrique,
+                                      {{CelluleAncienne(s), CelluleNouvelle(s)},
+                                       {CelluleAncienne(s), CelluleNouvelle(s)},
+                                       salaire::TotauxDeuxCellules(s)});
 }
 
-void MethodeCalculG::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/,
-                                                    SalarieCalculRubrique& Rubrique,
-                                                    const RsRef& RsVarSalaries) {
-  indemnites::CreditMunicipal(*this, Rubrique, RsVarSalaries);
+void MethodeCalculG::CalculRubrique_CPA(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique) {
+  VarCalculSalarie& s = InfosSalaries;
+  salaire::RubriqueCPA(s, Rubrique, {CelluleAncienne(s), CelluleNouvelle(s)},
+                       salaire::TotauxDeuxCellules(s));
 }
 
-void MethodeCalculG::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/,
-                                                     SalarieCalculRubrique& Rubrique,
-                                                     const RsRef& RsVarSalaries) {
-  indemnites::MontantReference(*this, Rubrique, RsVarSalaries);
+void MethodeCalculG::CalculRubrique_CFA(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique) {
+  VarCalculSalarie& s = InfosSalaries;
+  salaire::RubriqueCFA(*this, s, Rubrique, {CelluleAncienne(s), CelluleNouvelle(s)},
+                       s.iNBJ_PresenceA + s.iNBJ_PresenceN);
 }
 
-void MethodeCalculG::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
-                                                        const RsRef& RsVarSalaries,
-                                                        SalarieCalculRubrique& Rubrique) {
-  indemnites::AllocationFormation(*this, InfosSalaries, RsVarSalaries, Rubrique);
+void MethodeCalculG::CalculRubrique_Iat(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsVarSalaries) {
+  salaire::RubriqueIat(*this, Rubrique, RsVarSalaries, salaire::TotauxDeuxCellules(InfosSalaries));
 }
 
-double MethodeCalculG::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance,
-                                           Int32 lKmCumule, double& dTaux1, double& dTaux2,
-                                           Int32& lKm1, Int32& lKm2, double& dMontant) {
-  return indemnites::BaremeKilometrique(*this, lKmParcouru, lKmPuissance, lKmCumule, dTaux1,
-                                        dTaux2, lKm1, lKm2, dMontant);
+// The new index on its cell, the old one on its own; training leave as the cell's
+// iNBJ_Formation.
+void MethodeCalculG::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
+                                                       SalarieCalculRubrique& Rubrique) {
+  const VarCalculSalarie& s = InfosSalaries;
+  salaire::RubriqueSujetionsSpeciales(
+      Rubrique, {{s.dBase_HSN, s.dCoefficient_INouveau, s.iNBJ_PresenceN,
+                  s.iNBJ_CFAN + s.iNBJ_FormationN},
+                 {s.dBase_HSA, s.dCoefficient_IAncien, s.iNBJ_PresenceA,
+                  s.iNBJ_CFAA + s.iNBJ_FormationA}});
 }
 
-void MethodeCalculG::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
-                                                          SalarieCalculRubrique& Rubrique) {
-  indemnites::IndemniteKilometrique(*this, InfosSalaries, Rubrique);
-}
-
-// The treatment of the month: the former index's cell and the new one's.
-void MethodeCalculG::CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries,
-                                         SalarieCalculRubrique& Rubrique,
-                                         const RsRef& RsVarSalaries,
-                                         const RsRef& RsVarSalariesHisto,
-                                         const RsRef& RsSalariesHisto, bool bOption) {
-  indemnites::Mgen(
-      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto},
-      InfosSalaries.dSalarie_MensuelA + InfosSalaries.dSalarie_MensuelN, bOption);
+void MethodeCalculG::CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
+                                                       const RsRef& /*RsVarSalaries*/,
+                                                       SalarieCalculRubrique& Rubrique) {
+  salaire::RubriqueIndemniteFormation(*this, InfosSalaries, Rubrique);
 }
 
 }  // namespace orvalis

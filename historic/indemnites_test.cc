@@ -1,219 +1,189 @@
-// Allowances and deductions of the historic engine beside the current one: one body for
-// both; the MGEN line reads the month's treatment in two cells here, in four there.
-#include "historic/lignes_test_outils.h"
+// The residence allowance, the family supplement and the other allowances of the historic
+// engine beside the current engine, on the months of the treatment tests: new index 366
+// (month 1801.73), old index 340 paid on the minimum 361 (month 1777.12).
+#include "historic/elements_test_outils.h"
 
 namespace orvalis::historique_test {
 namespace {
 
-class IndemnitesHistoriqueTest : public DeuxLignes {
+class IndemnitesHistorique : public ElementsDeuxMoteurs {
  protected:
-  IndemnitesHistoriqueTest() {
-    n.gRsTaux = NouveauRecordset({"CodeTaux", "IdTaux", "PartSalariale", "PartPatronale"});
-    h.gRsTaux = n.gRsTaux;
-    for (const char* c : {"Point", "IndInform", "IndFndSol", "IndMinRemuneration", "IndResid"})
-      n.gRsConstantesFixes->AjouteColonne(c);
-    Fixe("Point", 59.0734);
-    Fixe("HrsMois", 151.67);
-    // Sentinels: a line that is not computed keeps them.
-    r.dBase = 1;
-    r.dTauxSalarial = 2;
-    r.dMontantSalarial = 3;
-    r.dTauxPatronal = 4;
-    r.dMontantPatronal = 5;
+  IndemnitesHistorique() {
+    s.dIndiceMajoreA = 340;
+    s.iZoneResid = 3;
+    // "IndResid" 313: Round2(313 x 59.0734 = 18489.9742) = 18489.97, a month of
+    // Round2(1540.830833 - 0.0049) = 1540.83.
+    Fixe("IndResid", 313);
   }
-  void LignesIntactes() {
-    for (const SalarieCalculRubrique* l : {&rN, &rH}) {
-      EXPECT_EQ(l->dBase, 1.0);
-      EXPECT_EQ(l->dMontantSalarial, 3.0);
-      EXPECT_EQ(l->dMontantPatronal, 5.0);
-    }
+  // The index change on the 11th at 80 % (paid 6/7), with the month's treatment lines: real
+  // salaries 1029.56 (new index, 20 days) and 1777.12 x 2/7 = 507.748571 (old, 10 days).
+  void MoisAChangementDIndice(const std::vector<std::string>& autres = {}) {
+    s.sDateChangementIndice = "11/03/2024";
+    s.dTauxPoste = 80;
+    Prepare(autres);
+    Traitement();
+  }
+  void Traitement() {
+    Ligne("TRAITEMENT INDICIAIRE MOIS");
+    Ligne("TRAITEMENT INDICIAIRE MOIS PRECEDENT");
   }
 };
 
-// Arrondi(59.0734, 2) x 20 = 1181.40 a year, Arrondi(1181.40 / 12 - 0.0049, 2) =
-// Arrondi(98.4451, 2) = 98.45 a month, twice: 196.90.
-TEST_F(IndemnitesHistoriqueTest, ComputerBonus) {
-  Fixe("IndInform", 20);
-  Var("COEFINF", 2);
-  Calcule("PRIME INFORMATIQUE");
-  MemeLigne(98.45, 2, 196.9);
+TEST_F(IndemnitesHistorique, ResidenceOnAWholeMonth) {
+  Prepare();
+  Traitement();
+  Ligne("INDEMNITE DE RESIDENCE");
+  // S = 1801.73 above the floor 1540.83: 3 % of it, 54.0519.
+  Attendu(rN, 1801.73, 3, 54.0519);
+  Attendu(rH, 1801.73, 3, 54.0519);
+  EXPECT_NEAR(sH.dIndResTotale, 54.0519, 1e-9);
 }
 
-TEST_F(IndemnitesHistoriqueTest, ComputerBonusWithoutCoefficient) {
-  Fixe("IndInform", 20);
-  Calcule("PRIME INFORMATIQUE");
-  LignesIntactes();
+TEST_F(IndemnitesHistorique, ResidenceWithAnIndexChange) {
+  MoisAChangementDIndice();
+  Ligne("INDEMNITE DE RESIDENCE");
+  // S = 1029.56 x 20 / 20 + 507.748571 x 10 / 10 = 1537.308571 above the floor
+  // 1540.83 x 6/7 = 1320.711429; 3 % of it, 46.119257.
+  const double S = 1029.56 + 1777.12 * 2 / 7;
+  Attendu(rN, S, 3, S * 3 / 100);
+  Attendu(rH, S, 3, S * 3 / 100);
 }
 
-// 900 of 1000 repaid: the instalment of 150 is held to the balance, 100.
-TEST_F(IndemnitesHistoriqueTest, MunicipalCreditLastInstalment) {
-  Var("CMREMBMOIS", 150);
-  Var("CMREMBTOT", 1000);
-  Var("CMREMBREST", 900);
-  Calcule("CREDIT MUNICIPAL");
-  MemeLigne(0, 0, 100);
+// Index 200, at the threshold, is paid as it stands: 984.55 a month, below the floor.
+TEST_F(IndemnitesHistorique, ResidenceOnItsFloor) {
+  s.dIndiceMajoreM = 200;
+  Prepare();
+  Ligne("TRAITEMENT INDICIAIRE MOIS");
+  ASSERT_DOUBLE_EQ(rH.dBase, 984.55);
+  Ligne("INDEMNITE DE RESIDENCE");
+  // B = 1540.83, 3 % = 46.2249.
+  Attendu(rN, 1540.83, 3, 46.2249);
+  Attendu(rH, 1540.83, 3, 46.2249);
 }
 
-TEST_F(IndemnitesHistoriqueTest, MunicipalCreditRepaid) {
-  Var("CMREMBMOIS", 150);
-  Var("CMREMBTOT", 1000);
-  Var("CMREMBREST", 1000);
-  Calcule("CREDIT MUNICIPAL");
-  LignesIntactes();
+// Where they differ: dNB_Jours_Max_Decalage_Mois at 0 stops the current allowance; the
+// historic engine does not read that field.
+TEST_F(IndemnitesHistorique, ResidenceWithoutTheDecalOfDays) {
+  s.dNB_Jours_Max_Decalage_Mois = 0;
+  Prepare();
+  Traitement();
+  Ligne("INDEMNITE DE RESIDENCE");
+  Attendu(rN, 1801.73, 3, 0);
+  Attendu(rH, 1801.73, 3, 54.0519);
 }
 
-TEST_F(IndemnitesHistoriqueTest, ReferenceAmountByCode) {
-  Var("MTPSR", 120.5);
-  Var("MTPSRCOEF", 2);
-  r.sCodeRubrique = "PRSERREN09";
-  Calcule("MONTANT REFERENCE");
-  MemeLigne(121, 2, 242);  // the variable read to the unit: 120.5 gives 121; 121 x 2
-  r.sCodeRubrique = "AUTRE";
-  Calcule("MONTANT REFERENCE");
-  LignesIntactes();
+TEST_F(IndemnitesHistorique, ResidenceZoneZeroLeavesTheLine) {
+  s.iZoneResid = 0;
+  Prepare();
+  rH.dMontantSalarial = 7;
+  ASSERT_TRUE(h.Appel_Methode_Calcul_General("INDEMNITE DE RESIDENCE", sH, rH, vars));
+  EXPECT_EQ(rH.dMontantSalarial, 7);
 }
 
-// Threshold Arrondi(59.07 x 287 / 12 - 0.0049, 2) = Arrondi(1412.7526, 2) = 1412.75: one
-// cent above it the fund is levied, 1 % of 2000.46 = 20.0046.
-TEST_F(IndemnitesHistoriqueTest, SolidarityFundAboveTheThreshold) {
-  s.bSoumisFondsSolidarite = true;
-  Fixe("IndFndSol", 287);
-  Cumul("ASSFNDSOL", 2000.46);
-  Cumul("SEUILFONDS", 1412.76);
-  n.gRsTaux->AddNew();
-  n.gRsTaux->SetField("CodeTaux", "FDS");
-  n.gRsTaux->SetField("IdTaux", 7);
-  n.gRsTaux->SetField("PartSalariale", 1.0);
-  n.gRsTaux->SetField("PartPatronale", 0.0);
-  r.lIdTaux = 7;
-  Calcule("FONDS DE SOLIDARITE");
-  MemeLigne(2000.46, 1, 20.0046);
+// Two children, floor index 300 (month Round2(1476.835 - 0.0049) = 1476.83), ceiling 717
+// (3529.63). The full salaries 1801.73 x 2/3 + 1777.12 x 1/3 = 1793.526667 lie between:
+// A = trunc2(10.67 + 1793.526667 x 3 %) = 64.47, L = trunc2(10.67 + 1476.83 x 3 %) = 54.97.
+// A post at 80 %: each cell's share, 64.47 x 6/7 x (10 + 20) / 30 = 55.26, above 54.97.
+TEST_F(IndemnitesHistorique, FamilySupplementWithAnIndexChange) {
+  for (auto [c, v] : {std::pair{"IndMinSF", 300.0}, {"IndMaxSF", 717.0}, {"SFFixe2", 10.67},
+                      {"SFvar2", 3.0}})
+    Fixe(c, v);
+  s.iEnfant_ACharge = 2;
+  MoisAChangementDIndice();
+  Ligne("SUPPLEMENT FAMILIAL");
+  const double T = 1801.73 * 2 / 3 + 1777.12 / 3;
+  Attendu(rN, T, 2, 64.47 * 6 / 7);
+  Attendu(rH, T, 2, 64.47 * 6 / 7);
+  EXPECT_NEAR(sH.dMontant_SFT, 55.26, 1e-9);
 }
 
-TEST_F(IndemnitesHistoriqueTest, SolidarityFundAtTheThreshold) {
-  s.bSoumisFondsSolidarite = true;
-  Fixe("IndFndSol", 287);
-  Cumul("SEUILFONDS", 1412.75);
-  Calcule("FONDS DE SOLIDARITE");
-  LignesIntactes();
+// One child on a whole month: "SFFixe1" alone, over the 30 days.
+TEST_F(IndemnitesHistorique, FamilySupplementOneChild) {
+  Fixe("SFFixe1", 2.29);
+  s.iEnfant_ACharge = 1;
+  Prepare();
+  Traitement();
+  Ligne("SUPPLEMENT FAMILIAL");
+  Attendu(rN, 0, 1, 2.29);
+  Attendu(rH, 0, 1, 2.29);
 }
 
-// The minimum index 366: Arrondi(366 x 59.0734, 2) = 21620.86 a year over 151.67 x 12 =
-// 1820.04 hours, 11.879332 an hour; 10 hours Arrondi(118.79332, 2) = 118.79.
-TEST_F(IndemnitesHistoriqueTest, TrainingAllowance) {
-  Fixe("IndMinRemuneration", 366);
-  Var("HRSALLFOR", 10);
-  Calcule("ALLOCATION FORMATION");
-  MemeLigne(10, 21620.86 / 1820.04, 118.79);
+// End of activity from the 6th to the 20th: 5 days on the old index, 10 on the new. The
+// days' share of the real salaries (507.748571 x 5 + 1029.56 x 10) / 30 = 427.811429 is
+// below the same share of the minimum index's month, 1777.12 x 15 / 30 = 888.56.
+TEST_F(IndemnitesHistorique, EndOfActivity) {
+  Situation("CF", "06/03/2024", "20/03/2024");
+  MoisAChangementDIndice({"NBRE_JOUR_CFA"});
+  ASSERT_EQ(sH.iNBJ_CFAA, 5);
+  ASSERT_EQ(sH.iNBJ_CFAN, 10);
+  Ligne("CFA");
+  const double M = (1777.12 * 2 / 7 * 5 + 1029.56 * 10) / 30;
+  Attendu(rN, M, 0, 888.56);
+  Attendu(rH, M, 0, 888.56);
 }
 
-// With a residence zone of 3 %, the index 366 above "IndResid" 313: 21620.86 x 3 / 100 =
-// 648.6258 more; (21620.86 + 648.6258) / 1820.04 = 12.235712; 10 hours 122.36.
-TEST_F(IndemnitesHistoriqueTest, TrainingAllowanceWithResidence) {
-  Fixe("IndMinRemuneration", 366);
-  Fixe("IndResid", 313);
-  s.iZoneResid = 3;
-  Var("HRSALLFOR", 10);
-  Calcule("ALLOCATION FORMATION");
-  MemeLigne(10, (21620.86 + 648.6258) / 1820.04, 122.36);
+// Progressive end of activity on the same days: the share, prorated on a month with no half
+// pay, stands.
+TEST_F(IndemnitesHistorique, ProgressiveEndOfActivity) {
+  Situation("CP", "06/03/2024", "20/03/2024");
+  MoisAChangementDIndice({"NBRE_JOUR_CPA"});
+  ASSERT_EQ(sH.iNBJ_CPAA, 5);
+  ASSERT_EQ(sH.iNBJ_CPAN, 10);
+  Ligne("CPA");
+  const double M = (1777.12 * 2 / 7 * 5 + 1029.56 * 10) / 30;
+  Attendu(rN, M, 0, M);
+  Attendu(rH, M, 0, M);
 }
 
-class KilometresHistoriqueTest : public IndemnitesHistoriqueTest {
- protected:
-  KilometresHistoriqueTest() {
-    Constante("KM5CVTR1", 0.529);
-    Constante("KM5CVTR2", 0.316);
-    Constante("KM5CVTR3", 0.37);
-  }
-};
-
-// 200 km of a 5 horsepower car after 1900 in the year: 100 km at 0.529 up to 2000, 100 at
-// 0.316 beyond: 52.90 + 31.60 = 84.50.
-TEST_F(KilometresHistoriqueTest, ScaleAcrossTheFirstBand) {
-  double dTaux1N = 0, dTaux2N = 0, dMontantN = 0, dTaux1H = 0, dTaux2H = 0, dMontantH = 0;
-  Int32 lKm1N = 0, lKm2N = 0, lKm1H = 0, lKm2H = 0;
-  EXPECT_NEAR(n.dBaremeKilometrique(200, 5, 1900, dTaux1N, dTaux2N, lKm1N, lKm2N, dMontantN),
-              84.5, 1e-9);
-  EXPECT_NEAR(h.dBaremeKilometrique(200, 5, 1900, dTaux1H, dTaux2H, lKm1H, lKm2H, dMontantH),
-              84.5, 1e-9);
-  EXPECT_EQ(dTaux1H, 0.529);
-  EXPECT_EQ(dTaux2H, 0.316);
-  EXPECT_EQ(lKm1H, 100);
-  EXPECT_EQ(lKm2H, 100);
-  EXPECT_EQ(dMontantH, dMontantN);
+// IAT: 1.5 x 100 = 150, with 15 days of half pay counted half: 150 x (30 - 7.5) / 30 =
+// 112.50, twice.
+TEST_F(IndemnitesHistorique, IatOverHalfPayDays) {
+  Constante("TXIATDEP", 1.5);
+  paie_test::AjouteVariable(vars, "MTIAT", 100, 1, Value::Null(), "M");
+  paie_test::AjouteVariable(vars, "MTIATCOEF", 2, 2, Value::Null(), "M");
+  Situation("DT", "06/03/2024", "20/03/2024");
+  MoisAChangementDIndice({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  Ligne("IAT");
+  Attendu(rN, 112.5, 2, 225);
+  Attendu(rH, 112.5, 2, 225);
 }
 
-// The line: the same journey of the 5 horsepower car, and 50 km of a 9 horsepower car whose
-// scale ("KM8CVTR1") the host has not set, paid 0: base 250 km, several rates so none
-// shown, 84.50.
-TEST_F(KilometresHistoriqueTest, AllowanceOfTwoVehicles) {
-  s.lKmCumule = 2150;
-  s.lKmParcouru1 = 200;
-  s.lKmPuissance1 = 5;
-  s.lKmParcouru2 = 50;
-  s.lKmPuissance2 = 9;
-  Calcule("INDEMNITE KILOMETRIQUE");
-  // Before the month 2150 - 250 = 1900 km: the car of 5 hp as above; the other one
-  // 1900 + 50 stays in the first band.
-  MemeLigne(250, 0, 84.5);
+// Special duties: the reference of each index on its share and days on duty. New index
+// 24000 x 2/3 x (20 - 4) / 20 = 12800, old 23000 x 1/3 x 10 / 10 = 7666.666667; a month of
+// 20466.666667: Round2(1705.555556 - 0.0049) = 1705.55.
+TEST_F(IndemnitesHistorique, SpecialDutiesOnEachIndex) {
+  s.sDateChangementIndice = "11/03/2024";
+  Prepare();
+  sN.dBase_HSN = sH.dBase_HSN = 24000;
+  sN.dBase_HSA = sH.dBase_HSA = 23000;
+  sN.iNBJ_CFAINTN = 4;
+  sH.iNBJ_CFAN = 4;
+  Ligne("SUJETIONS SPECIALES");
+  Attendu(rN, 12800 + 23000.0 / 3, 0, 1705.55);
+  Attendu(rH, 12800 + 23000.0 / 3, 0, 1705.55);
 }
 
-TEST_F(KilometresHistoriqueTest, NoJourney) {
-  Calcule("INDEMNITE KILOMETRIQUE");
-  MemeLigne(0, 0, 0);
+// Training leave from the 11th: 20 days on the bound Round2(Round2(400 x 59.0734) / 12) =
+// 1969.11; Round2(1969.11 x 20 / 30) = 1312.74.
+TEST_F(IndemnitesHistorique, TrainingAllowance) {
+  Constante("INDMAXFORM", 400);
+  s.rsSituationsExceptionnelles = periode_test::Situations({{"C", "11/03/2024", "31/03/2024"}});
+  Prepare();
+  Ligne("INDEMNITE DE FORMATION");
+  Attendu(rN, 20, 0, 1312.74);
+  Attendu(rH, 20, 0, 1312.74);
 }
 
-// Base 2500 from another line at 2.5 %. The month's treatment: 2000 in the historic two
-// cells (800 + 1200), 1500 in the current four (INTN).
-class MgenHistoriqueTest : public IndemnitesHistoriqueTest {
- protected:
-  MgenHistoriqueTest() {
-    r.sValeurBase = "PART SALARIALE D'UNE RUBRIQUE";
-    r.dMontantSalarialRub = 2500;
-    Constante("TXMGEN", 2.5, 1, "T");
-    r.sValeurTauxSalarial = "UNE CONSTANTE";
-    r.lIdValeurTauxSalarial = 1;
-    Constante("COTMINMGEN", 10);
-    Constante("COTMAXMGEN", 100);
-    Constante("COTMINMG30", 20);
-    Constante("COTMAXMG30", 100);
-    s.dSalarie_MensuelA = 800;
-    s.dSalarie_MensuelN = 1200;
-    s.dSalaire_MensuelINTN = 1500;
-  }
-};
-
-// "ASSMGEN" 1800 is beyond the current month's 1500, not beyond the historic 2000:
-// current (2500 - 1500) x 2.5 % = 25.00; historic 2500 x 2.5 % = 62.50.
-TEST_F(MgenHistoriqueTest, TreatmentLeavesTheBaseByEachMonthModel) {
-  Cumul("ASSMGEN", 1800);
-  Calcule("MGEN");
-  EXPECT_DOUBLE_EQ(rN.dBase, 1000);
-  EXPECT_NEAR(rN.dMontantSalarial, 25, 1e-9);
-  EXPECT_DOUBLE_EQ(rH.dBase, 2500);
-  EXPECT_NEAR(rH.dMontantSalarial, 62.5, 1e-9);
-  EXPECT_DOUBLE_EQ(rH.dTauxSalarial, 2.5);
-}
-
-// "ASSMGEN" 2600 beyond both: historic (2500 - 2000) x 2.5 % = 12.50, under the minimum of
-// the under-30 line, 20, which it pays with no base and no rate; current 25.00 stands.
-TEST_F(MgenHistoriqueTest, UnderThirtyMinimum) {
-  Cumul("ASSMGEN", 2600);
-  Calcule("MGEN (-30 ans)");
-  EXPECT_NEAR(rN.dMontantSalarial, 25, 1e-9);
-  EXPECT_DOUBLE_EQ(rH.dBase, 0);
-  EXPECT_DOUBLE_EQ(rH.dTauxSalarial, 0);
-  EXPECT_DOUBLE_EQ(rH.dMontantSalarial, 20);
-}
-
-// A whole month in the new cell of each model gives the same line: (2500 - 2000) x 2.5 %.
-TEST_F(MgenHistoriqueTest, WholeMonthInOneCell) {
-  s.dSalarie_MensuelA = 0;
-  s.dSalarie_MensuelN = 2000;
-  s.dSalaire_MensuelINTN = 2000;
-  Cumul("ASSMGEN", 2600);
-  Calcule("MGEN");
-  MemeLigne(500, 2.5, 12.5);
+// February 2024, a situation "N" from the 15th to the 29th: its end counts as the 30th,
+// 16 days; Round2(1969.11 x 16 / 30 = 1050.192) = 1050.19.
+TEST_F(IndemnitesHistorique, TrainingAllowanceInFebruary) {
+  n.gPeriodeEncours = h.gPeriodeEncours = "01/02/2024";
+  Constante("INDMAXFORM", 400);
+  s.rsSituationsExceptionnelles = periode_test::Situations({{"N", "15/02/2024", "29/02/2024"}});
+  Prepare();
+  Ligne("INDEMNITE DE FORMATION");
+  Attendu(rN, 16, 0, 1050.19);
+  Attendu(rH, 16, 0, 1050.19);
 }
 
 }  // namespace

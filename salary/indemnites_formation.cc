@@ -6,6 +6,7 @@
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
 #include "period/periode_outils.h"
+#include "salary/elements_cellules.h"
 #include "salary/indemnites_partagees.h"
 #include "salary/salaire_outils.h"
 
@@ -17,7 +18,7 @@ using salaire::EcritLigne;
 using salaire::FixeOuZero;
 
 // Days of the situations "C" and "N" in the pay month, on the 30-day month.
-Int16 JoursDeFormation(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries) {
+Int16 JoursDeFormation(MoteurCalcul& m, VarCalculSalarie& InfosSalaries) {
   const Date dDebutMois = LireDate(m.gPeriodeEncours);
   const std::string sDebutMois = TexteDate(dDebutMois);
   const std::string sFinMois = TexteDate(DernierJourDuMois(dDebutMois));
@@ -60,15 +61,20 @@ void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& I
 }
 
 // The days of training leave of the month, paid on the month's bound over 30 days.
+void salaire::RubriqueIndemniteFormation(MoteurCalcul& m, VarCalculSalarie& s,
+                                         SalarieCalculRubrique& Rubrique) {
+  const double dPlafondAnnuel = Arrondi(
+      m.dRechercheValeur_Constantes(m.gRsConstantes, "INDMAXFORM") * m.ConstanteFixe("Point"), 2);
+  const double dPlafondMois = Arrondi(dPlafondAnnuel / 12, 2);
+  const Int16 iJours = JoursDeFormation(m, s);
+  if (iJours == 0) return;
+  EcritLigne(Rubrique, iJours.value(), 0, Arrondi(dPlafondMois * iJours.value() / 30, 2));
+}
+
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
                                                             const RsRef& /*RsVarSalaries*/,
                                                             SalarieCalculRubrique& Rubrique) {
-  const double dPlafondAnnuel =
-      Arrondi(dRechercheValeur_Constantes(gRsConstantes, "INDMAXFORM") * ConstanteFixe("Point"), 2);
-  const double dPlafondMois = Arrondi(dPlafondAnnuel / 12, 2);
-  const Int16 iJours = JoursDeFormation(*this, InfosSalaries);
-  if (iJours == 0) return;
-  EcritLigne(Rubrique, iJours.value(), 0, Arrondi(dPlafondMois * iJours.value() / 30, 2));
+  salaire::RubriqueIndemniteFormation(*this, InfosSalaries, Rubrique);
 }
 
 }  // namespace orvalis

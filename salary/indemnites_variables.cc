@@ -9,7 +9,7 @@
 #include "orvalis/ModOutilsSpec.h"
 #include "salary/indemnites_partagees.h"
 #include "salary/salaire_outils.h"
-#include "salary/traitement_outils.h"
+#include "salary/elements_cellules.h"
 
 namespace orvalis {
 
@@ -146,20 +146,24 @@ void MethodeCalculG_Nouv::CalculRubrique_Cia(VarCalculSalarie& /*InfosSalaries*/
     MontantDesVariables(*this, Rubrique, RsVarSalaries, v);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& InfosSalaries,
-                                             SalarieCalculRubrique& Rubrique,
-                                             const RsRef& RsVarSalaries) {
-  const double X = dRechercheValeur_Constantes(gRsConstantes, "TXIATDEP") *
-                   dRechercheValeur_Variable(RsVarSalaries, "MTIAT");
+void salaire::RubriqueIat(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries, const TotauxDuMois& t) {
+  const double X = m.dRechercheValeur_Constantes(m.gRsConstantes, "TXIATDEP") *
+                   m.dRechercheValeur_Variable(RsVarSalaries, "MTIAT");
   if (X <= 0) return;
-  const double K = dRechercheValeur_Variable(RsVarSalaries, "MTIATCOEF");
+  const double K = m.dRechercheValeur_Variable(RsVarSalaries, "MTIATCOEF");
   double dBase = Arrondi(X, 2);
   // The allowance follows the treatment: nothing for a day of end of activity, half for a
   // day on half pay, over the 30 days of the month.
-  const double dJoursRetires =
-      InfosSalaries.iNBJ_CFA_Total.value() + InfosSalaries.iNBJ_DemiTraitement_Total.value() / 2.0;
+  const double dJoursRetires = t.iCFA.value() + t.iDemiTraitement.value() / 2.0;
   if (dJoursRetires > 0) dBase = Arrondi(dBase * std::max(30 - dJoursRetires, 0.0) / 30, 2);
   EcritLigne(Rubrique, dBase, K, Arrondi(K * dBase, 2));
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique,
+                                             const RsRef& RsVarSalaries) {
+  salaire::RubriqueIat(*this, Rubrique, RsVarSalaries, salaire::TotauxQuatreQuarts(InfosSalaries));
 }
 
 }  // namespace orvalis

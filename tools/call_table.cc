@@ -169,6 +169,11 @@ const std::vector<Operation>& TableDesAppels() {
          &H::EnregistreDetailRetenueSource_NouvelleMethode),
       Op("CalculRetenueSource_DonneesMandat", &H::CalculRetenueSource_DonneesMandat),
       Op("CalculRetenueSource_Bareme", &H::CalculRetenueSource_Bareme),
+      Op("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
+         &H::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple),
+      Op("CalculCoefficientDemiTraitement", &H::CalculCoefficientDemiTraitement),
+      Op("dCoefficientIndemnitaireDemiTraitement", &H::dCoefficientIndemnitaireDemiTraitement),
+      Op("dMontantProratiseSuivantDemiTraitement", &H::dMontantProratiseSuivantDemiTraitement),
 
       // ---- Other lookups of reference data (both engines) ------------------------------------
       Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),

@@ -71,6 +71,58 @@ class MethodeCalculG : public MoteurCalcul {
                                          const std::string& sMois, const std::string& sType,
                                          Int32 lIdCumul) override;
 
+  // ---- Salary elements in the two cells of the month (historic/) ---------------------------
+  // The current engine's rules over the old-index and the new-index cells, both on
+  // dCoefficient_Traitement; the totals of days are the two cells' sums.
+  void CalculRubrique_TraitementIndiciaireMois(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementIndiciaireMoisPrecedent(VarCalculSalarie& InfosSalaries,
+                                                        SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& InfosSalaries,
+                                                           SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_TraitementBaseParticulier(VarCalculSalarie& InfosSalaries,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& RsVarSalariesHisto,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsSalariesHisto);
+  void CalculCoefficientDemiTraitement(VarCalculSalarie& InfosSalaries, const std::string& sType);
+  // The line's days into the two cell counts (old index, new index): availability for the
+  // codes "INDCOSFT", "INDCOBONIF", "INDCOTRAIT", "INDCOIR", otherwise half pay; the half-pay
+  // coefficient is set first, but for "INDCOSFT".
+  void dCoefficientIndemnitaireDemiTraitement(VarCalculSalarie& InfosSalaries, Int16& iNbj_A,
+                                              Int16& iNbj_N, const std::string& sType,
+                                              const std::string& sCodeRubrique);
+  std::optional<double> dMontantProratiseSuivantDemiTraitement(VarCalculSalarie& InfosSalaries,
+                                                               double dMntInitial);
+  void CalculRubrique_DemiTraitementIndiciaire(VarCalculSalarie& InfosSalaries,
+                                               SalarieCalculRubrique& Rubrique,
+                                               const std::string& sVariante);
+  void CalculRubrique_BonificationIndiciaire(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_DemiTraitementBonification(VarCalculSalarie& InfosSalaries,
+                                                 SalarieCalculRubrique& Rubrique,
+                                                 const std::string& sVariante);
+  void CalculRubrique_CPA(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_CFA(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
+  // Paid whatever dNB_Jours_Max_Decalage_Mois, a field this engine does not read.
+  void CalculRubrique_IndemniteResidence(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_IndemniteCoordination(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const std::string& sVariante);
+  void CalculRubrique_SupplementFamilial(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_SupplementFamilialIC(VarCalculSalarie& InfosSalaries,
+                                           SalarieCalculRubrique& Rubrique,
+                                           const std::string& sVariante);
+  void CalculRubrique_Iat(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries);
+  void CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
+                                         const RsRef& RsVarSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+
   // ---- Resolvers of the generic pay lines: the designations this engine knows ------------
   double RechercheValeurBase(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                              SalarieCalculRubrique& Rubrique);
