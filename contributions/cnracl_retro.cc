@@ -68,7 +68,7 @@ void RubriqueCnraclRetroactive(const LectureLigne& l) {
   }
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
                                                            SalarieCalculRubrique& Rubrique,
                                                            const RsRef& RsVarSalaries,
                                                            const RsRef& RsVarSalariesHisto,

@@ -74,7 +74,7 @@ void elus::DonneesMandat(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
   dCoefBareme = *dCoef;
 }
 
-void MethodeCalculG_Nouv::CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries,
                                                             double& dFraisMandat,
                                                             double& dPlafondPeriode,
                                                             double& dPeriodesAn,
@@ -118,7 +118,7 @@ void elus::Bareme(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double
   if (sSuffixe) dConstante = m.ConstanteFixe("EluCste" + std::to_string(iTranche) + *sSuffixe);
 }
 
-void MethodeCalculG_Nouv::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries,
                                                      double dNetImposable, double dPeriodesAn,
                                                      double& dTauxTranche, double& dTrancheBasse,
                                                      double& dTrancheHaute, double& dConstante) {

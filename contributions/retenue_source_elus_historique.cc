@@ -179,11 +179,11 @@ void elus::RetenueALaSource(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
   Rubrique.dMontantPatronal = 0;
 }
 
-RsRef MethodeCalculG_Nouv::EnregistreDetailRetenueSource() {
+RsRef MoteurCalcul::EnregistreDetailRetenueSource() {
   return elus::NouveauDetailRetenueSource();
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
                                                              SalarieCalculRubrique& Rubrique,
                                                              const RsRef& RsVariablesSalaries) {
   elus::RetenueALaSource(*this, InfosSalaries, Rubrique, RsVariablesSalaries);

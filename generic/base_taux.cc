@@ -103,7 +103,7 @@ void RubriqueBaseTauxSmic(const LectureLigne& l) {
   Rubrique.dTauxPatronal = 0;
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries,
                                                   const RsRef& RsVarSalaries,
                                                   const RsRef& RsVarSalariesHisto,
                                                   SalarieCalculRubrique& Rubrique,
@@ -143,7 +143,7 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseDivTaux(VarCalculSalarie& InfosSala
   DeuxMontants(l, MontantParDivision, K);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries,
                                                        const RsRef& RsVarSalaries,
                                                        const RsRef& RsVarSalariesHisto,
                                                        SalarieCalculRubrique& Rubrique,
@@ -152,7 +152,7 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSa
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries,
                                                       const RsRef& RsVarSalaries,
                                                       const RsRef& RsVarSalariesHisto,
                                                       SalarieCalculRubrique& Rubrique,

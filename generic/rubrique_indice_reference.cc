@@ -50,7 +50,7 @@ void RubriqueIndiceReference(const LectureLigne& l) {
   Rubrique.dMontantPatronal = 0;
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries,
                                                           const RsRef& RsVarSalaries,
                                                           const RsRef& RsVarSalariesHisto,
                                                           SalarieCalculRubrique& Rubrique,
@@ -59,7 +59,7 @@ void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference(VarCalculSalarie& Info
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
                                                               const RsRef& RsVarSalaries,
                                                               const RsRef& RsVarSalariesHisto,
                                                               SalarieCalculRubrique& Rubrique) {
@@ -68,7 +68,7 @@ void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& 
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, aucune}, "CAS1", "CAS2");
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Indice_Reference_CAS_Communal(
+void MoteurCalcul::CalculRubrique_Indice_Reference_CAS_Communal(
     VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
     const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique) {
   const RsRef aucune;

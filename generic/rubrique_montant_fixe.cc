@@ -69,7 +69,7 @@ void RubriqueBaseProrata30ADeduire(const LectureLigne& l) {
   l.Rubrique.dMontantSalarial = -Prorata30(l);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries,
                                                      const RsRef& RsVarSalaries,
                                                      const RsRef& RsVarSalariesHisto,
                                                      SalarieCalculRubrique& Rubrique,
@@ -78,7 +78,7 @@ void MethodeCalculG_Nouv::CalculRubrique_MontantFixe(VarCalculSalarie& InfosSala
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries,
                                                            const RsRef& RsVarSalaries,
                                                            const RsRef& RsVarSalariesHisto,
                                                            SalarieCalculRubrique& Rubrique,
@@ -87,7 +87,7 @@ void MethodeCalculG_Nouv::CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& Inf
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries,
                                                        const RsRef& RsVarSalaries,
                                                        const RsRef& RsVarSalariesHisto,
                                                        SalarieCalculRubrique& Rubrique,
@@ -96,7 +96,7 @@ void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSa
       {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
                                                                const RsRef& RsVarSalaries,
                                                                const RsRef& RsVarSalariesHisto,
                                                                SalarieCalculRubrique& Rubrique,

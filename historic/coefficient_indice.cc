@@ -8,11 +8,6 @@ namespace orvalis {
 using periode::JourDe;
 using periode::MemeMois;
 
-void MethodeCalculG::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
-                                                          const std::string& sPeriode) {
-  periode::CoefficientsTauxElus(InfosSalaries, sPeriode);
-}
-
 void MethodeCalculG::CalculCoefficientUtilisationIndice(VarCalculSalarie& InfosSalaries) {
   const std::string& sModele = InfosSalaries.sTypeModele;
   if (sModele != "INDNTI" && sModele != "INDTIT") {

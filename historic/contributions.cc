@@ -44,21 +44,4 @@ std::optional<double> MethodeCalculG::dMontantGIPA(VarCalculSalarie& /*InfosSala
                  2);
 }
 
-void MethodeCalculG::CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
-                                                      SalarieCalculRubrique& Rubrique,
-                                                      const RsRef& RsVarSalaries,
-                                                      const RsRef& RsVarSalariesHisto,
-                                                      const RsRef& RsSalariesHisto) {
-  RubriqueCnraclRetroactive(
-      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto});
-}
-
-RsRef MethodeCalculG::EnregistreDetailRetenueSource() { return elus::NouveauDetailRetenueSource(); }
-
-void MethodeCalculG::CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
-                                                        SalarieCalculRubrique& Rubrique,
-                                                        const RsRef& RsVariablesSalaries) {
-  elus::RetenueALaSource(*this, InfosSalaries, Rubrique, RsVariablesSalaries);
-}
-
 }  // namespace orvalis

@@ -79,9 +79,4 @@ void MethodeCalculG::CalculRubrique_TraitementIndiciaireElusPrecedentMois(
   elus::TraitementIndiciaireElusPrecedentMois(e, InfosSalaries, Rubrique);
 }
 
-void MethodeCalculG::CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
-                                                              SalarieCalculRubrique& Rubrique) {
-  elus::TraitementForfaitaireElus(*this, InfosSalaries, Rubrique);
-}
-
 }  // namespace orvalis

@@ -62,10 +62,4 @@ void MethodeCalculG::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSa
                   s.iNBJ_CFAA + s.iNBJ_FormationA}});
 }
 
-void MethodeCalculG::CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
-                                                       const RsRef& /*RsVarSalaries*/,
-                                                       SalarieCalculRubrique& Rubrique) {
-  salaire::RubriqueIndemniteFormation(*this, InfosSalaries, Rubrique);
-}
-
 }  // namespace orvalis

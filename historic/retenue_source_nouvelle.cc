@@ -62,23 +62,6 @@ RsRef MethodeCalculG::EnregistreDetailRetenueSource_NouvelleMethode() {
   return NouveauRecordset(elus::ColonnesDetailNouvelleMethode(elus::FormeDetail::kHistorique));
 }
 
-void MethodeCalculG::CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries,
-                                                       double& dFraisMandat,
-                                                       double& dPlafondPeriode,
-                                                       double& dPeriodesAn, double& dMoisPeriode,
-                                                       double& dCoefBareme) {
-  elus::DonneesMandat(*this, InfosSalaries, dFraisMandat, dPlafondPeriode, dPeriodesAn,
-                      dMoisPeriode, dCoefBareme);
-}
-
-void MethodeCalculG::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries,
-                                                double dNetImposable, double dPeriodesAn,
-                                                double& dTauxTranche, double& dTrancheBasse,
-                                                double& dTrancheHaute, double& dConstante) {
-  elus::Bareme(*this, InfosSalaries, dNetImposable, dPeriodesAn, dTauxTranche, dTrancheBasse,
-               dTrancheHaute, dConstante);
-}
-
 void MethodeCalculG::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
     const RsRef& /*RsVariablesSalaries*/) {

@@ -138,7 +138,7 @@ void periode::CoefficientsTauxElus(VarCalculSalarie& InfosSalaries, const std::s
   InfosSalaries.dCoefficient_INouveau = iNouveau / 30.0;
 }
 
-void MethodeCalculG_Nouv::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
                                                                const std::string& sPeriode) {
   periode::CoefficientsTauxElus(InfosSalaries, sPeriode);
 }

@@ -20,7 +20,7 @@ void elus::TraitementForfaitaireElus(MoteurCalcul& m, VarCalculSalarie& s,
   Ligne(Rubrique, s.dSalarie_MensuelN, 0, dMontant);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
                                                                    SalarieCalculRubrique& Rubrique) {
   elus::TraitementForfaitaireElus(*this, InfosSalaries, Rubrique);
 }

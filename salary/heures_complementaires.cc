@@ -108,20 +108,20 @@ void ComplementDifferentiel35H(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
 
 }  // namespace heures
 
-void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
                                                                SalarieCalculRubrique& Rubrique,
                                                                const RsRef& RsVarSalaries) {
   heures::HeuresComplementaires(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementairesPrec(
+void MoteurCalcul::CalculRubrique_HeuresComplementairesPrec(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
     const RsRef& RsVarSalariesHisto) {
   heures::HeuresComplementairesPrec(*this, InfosSalaries, Rubrique, RsVarSalaries,
                                     RsVarSalariesHisto);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(
+void MoteurCalcul::CalculRubrique_ComplementDifferentiel35H(
     VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& Rubrique,
     const RsRef& RsVarSalaries) {
   heures::ComplementDifferentiel35H(*this, Rubrique, RsVarSalaries);

@@ -176,66 +176,66 @@ void HS_NuitFeriePlus14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculR
 }  // namespace heures
 
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries,
                                                     SalarieCalculRubrique& Rubrique,
                                                     const RsRef& RsVarSalaries) {
   heures::HS_Moins14(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries,
                                                    SalarieCalculRubrique& Rubrique,
                                                    const RsRef& RsVarSalaries) {
   heures::HS_Plus14(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries,
                                                  SalarieCalculRubrique& Rubrique,
                                                  const RsRef& RsVarSalaries) {
   heures::HS_Nuit(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries,
                                                   SalarieCalculRubrique& Rubrique,
                                                   const RsRef& RsVarSalaries) {
   heures::HS_Ferie(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
                                                             SalarieCalculRubrique& Rubrique,
                                                             const RsRef& RsVarSalaries,
                                                             const std::string& sNomcalcul) {
   heures::HS_NuitFeriePlus14(*this, InfosSalaries, Rubrique, RsVarSalaries, sNomcalcul);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
                                                         SalarieCalculRubrique& Rubrique,
                                                         const RsRef& RsVarSalaries,
                                                         const RsRef& /*RsVarSalariesHisto*/) {
   heures::HS_Moins14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
                                                        SalarieCalculRubrique& Rubrique,
                                                        const RsRef& RsVarSalaries,
                                                        const RsRef& /*RsVarSalariesHisto*/) {
   heures::HS_Plus14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries,
                                                      SalarieCalculRubrique& Rubrique,
                                                      const RsRef& RsVarSalaries,
                                                      const RsRef& /*RsVarSalariesHisto*/) {
   heures::HS_NuitPrec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries,
                                                       SalarieCalculRubrique& Rubrique,
                                                       const RsRef& RsVarSalaries,
                                                       const RsRef& /*RsVarSalariesHisto*/) {
   heures::HS_FeriePrec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14Prec(
+void MoteurCalcul::CalculRubrique_HS_NuitFeriePlus14Prec(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
     const RsRef& /*RsVarSalariesHisto*/, const std::string& sNomcalcul) {
   heures::HS_NuitFeriePlus14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries, sNomcalcul);

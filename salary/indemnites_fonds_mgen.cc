@@ -53,7 +53,7 @@ void indemnites::FondsSolidarite(MoteurCalcul& m, const VarCalculSalarie& InfosS
   Rubrique.dMontantPatronal = dBase * t.dPatronal / 100;
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
                                                          SalarieCalculRubrique& Rubrique) {
   indemnites::FondsSolidarite(*this, InfosSalaries, Rubrique);
 }

@@ -54,7 +54,7 @@ void indemnites::AllocationFormation(MoteurCalcul& m, const VarCalculSalarie& In
   EcritLigne(Rubrique, dHeures, dTaux, Arrondi(dHeures * dTaux, 2));
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
                                                              const RsRef& RsVarSalaries,
                                                              SalarieCalculRubrique& Rubrique) {
   indemnites::AllocationFormation(*this, InfosSalaries, RsVarSalaries, Rubrique);
@@ -71,7 +71,7 @@ void salaire::RubriqueIndemniteFormation(MoteurCalcul& m, VarCalculSalarie& s,
   EcritLigne(Rubrique, iJours.value(), 0, Arrondi(dPlafondMois * iJours.value() / 30, 2));
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
                                                             const RsRef& /*RsVarSalaries*/,
                                                             SalarieCalculRubrique& Rubrique) {
   salaire::RubriqueIndemniteFormation(*this, InfosSalaries, Rubrique);

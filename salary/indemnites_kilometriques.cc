@@ -57,7 +57,7 @@ double indemnites::BaremeKilometrique(MoteurCalcul& m, Int32 lKmParcouru, Int32 
   return dMontant;
 }
 
-double MethodeCalculG_Nouv::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance,
+double MoteurCalcul::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance,
                                                 Int32 lKmCumule, double& dTaux1,
                                                 double& dTaux2, Int32& lKm1, Int32& lKm2,
                                                 double& dMontant) {
@@ -92,7 +92,7 @@ void indemnites::IndemniteKilometrique(MoteurCalcul& m, const VarCalculSalarie& 
   Rubrique.dMontantPatronal = 0;
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
+void MoteurCalcul::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
                                                                SalarieCalculRubrique& Rubrique) {
   indemnites::IndemniteKilometrique(*this, InfosSalaries, Rubrique);
 }

@@ -76,7 +76,7 @@ void indemnites::PrimeInformatique(MoteurCalcul& m, SalarieCalculRubrique& Rubri
   EcritLigne(Rubrique, dMois, K, Arrondi(dMois * K, 2));
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/,
+void MoteurCalcul::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/,
                                                            SalarieCalculRubrique& Rubrique,
                                                            const RsRef& RsVarSalaries) {
   indemnites::PrimeInformatique(*this, Rubrique, RsVarSalaries);
@@ -93,7 +93,7 @@ void indemnites::CreditMunicipal(MoteurCalcul& m, SalarieCalculRubrique& Rubriqu
   EcritLigne(Rubrique, 0, 0, M + R >= T ? T - R : M);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/,
+void MoteurCalcul::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/,
                                                          SalarieCalculRubrique& Rubrique,
                                                          const RsRef& RsVarSalaries) {
   indemnites::CreditMunicipal(*this, Rubrique, RsVarSalaries);
@@ -110,7 +110,7 @@ void indemnites::MontantReference(MoteurCalcul& m, SalarieCalculRubrique& Rubriq
     if (Rubrique.sCodeRubrique == sCode) MontantDesVariables(m, Rubrique, RsVarSalaries, v);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/,
+void MoteurCalcul::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/,
                                                           SalarieCalculRubrique& Rubrique,
                                                           const RsRef& RsVarSalaries) {
   indemnites::MontantReference(*this, Rubrique, RsVarSalaries);

@@ -28,8 +28,6 @@ class MethodeCalculG : public MoteurCalcul {
   // ---- Period preparation with the historic rule (historic/) ------------------------------
   // dCoefficient_IAncien and dCoefficient_INouveau: the month split at sDateChangementIndice.
   void CalculCoefficientUtilisationIndice(VarCalculSalarie& InfosSalaries);
-  void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
-                                            const std::string& sPeriode);
   // One situation's days added to the two counts of the month, capped by the presence.
   void CalculNombreJour_Situation(const std::string& sSituation,
                                   const std::string& sDateDeb_Situation,
@@ -119,9 +117,6 @@ class MethodeCalculG : public MoteurCalcul {
                           const RsRef& RsVarSalaries);
   void CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
                                          SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
-                                         const RsRef& RsVarSalaries,
-                                         SalarieCalculRubrique& Rubrique);
 
   // ---- Resolvers of the generic pay lines: the designations this engine knows ------------
   double RechercheValeurBase(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
@@ -148,45 +143,7 @@ class MethodeCalculG : public MoteurCalcul {
   double TauxPatronalDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                              SalarieCalculRubrique& Rubrique, std::string& sType) override;
 
-  // ---- Generic pay lines: the shared bodies, through the resolvers above -----------------
-  void CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                               const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
-                               const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                    const RsRef& RsVarSalariesHisto,
-                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                   const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
-                                   const RsRef& RsSalariesHisto);
-  void CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                  const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
-                                  const RsRef& RsSalariesHisto);
-  void CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                        const RsRef& RsVarSalariesHisto,
-                                        SalarieCalculRubrique& Rubrique,
-                                        const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                    const RsRef& RsVarSalariesHisto,
-                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
-                                            const RsRef& RsVarSalaries,
-                                            const RsRef& RsVarSalariesHisto,
-                                            SalarieCalculRubrique& Rubrique,
-                                            const RsRef& RsSalariesHisto);
-  void CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                       const RsRef& RsVarSalariesHisto,
-                                       SalarieCalculRubrique& Rubrique,
-                                       const RsRef& RsSalariesHisto);
-  void CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
-                                           const RsRef& RsVarSalaries,
-                                           const RsRef& RsVarSalariesHisto,
-                                           SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& InfosSalaries,
-                                                    const RsRef& RsVarSalaries,
-                                                    const RsRef& RsVarSalariesHisto,
-                                                    SalarieCalculRubrique& Rubrique);
-
-  // ---- Officials, overtime and other allowances: the current engine's bodies (historic/) --
+  // ---- Officials' lines and MGEN over this engine's index and cells (historic/) -----------
   // The officials' lines on the fixed index (see dRechercheIndMajEluPeriode).
   void CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& InfosSalaries,
                                                SalarieCalculRubrique& Rubrique);
@@ -196,66 +153,10 @@ class MethodeCalculG : public MoteurCalcul {
                                                         SalarieCalculRubrique& Rubrique);
   void CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& InfosSalaries,
                                                             SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
-                                                SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
-                                            SalarieCalculRubrique& Rubrique,
-                                            const RsRef& RsVarSalaries);
-  void CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& InfosSalaries,
-                                                SalarieCalculRubrique& Rubrique,
-                                                const RsRef& RsVarSalaries,
-                                                const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                 const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
-                                     SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                                     const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
-                                    SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                                    const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
-                                         SalarieCalculRubrique& Rubrique,
-                                         const RsRef& RsVarSalaries, const std::string& sNomcalcul);
-  void CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& InfosSalaries,
-                                             SalarieCalculRubrique& Rubrique,
-                                             const RsRef& RsVarSalaries,
-                                             const RsRef& RsVarSalariesHisto,
-                                             const std::string& sNomcalcul);
-  void CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                              const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                  const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                               const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                   const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_PrimeInformatique(VarCalculSalarie& InfosSalaries,
-                                        SalarieCalculRubrique& Rubrique,
-                                        const RsRef& RsVarSalaries);
-  void CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
-                                      SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_CreditMunicipal(VarCalculSalarie& InfosSalaries,
-                                      SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
-  void CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& InfosSalaries,
-                                                SalarieCalculRubrique& Rubrique,
-                                                const RsRef& RsVarSalaries);
-  void CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
-                                            SalarieCalculRubrique& Rubrique);
-  // The mileage scale, as in the current engine.
-  double dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance, Int32 lKmCumule,
-                             double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
-                             double& dMontant);
   // The month's treatment is the sum of the two cells dSalarie_MensuelA and N.
   void CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                            const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
                            const RsRef& RsSalariesHisto, bool bOption);
-  void CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
-                                          const RsRef& RsVarSalaries,
-                                          SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_MontantReference(VarCalculSalarie& InfosSalaries,
-                                       SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
 
   // ---- Contributions with the historic rule (historic/) ----------------------------------
   void CalculRubrique_ReductionHS(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
@@ -281,17 +182,8 @@ class MethodeCalculG : public MoteurCalcul {
                                      double dPoint_Debut, double dIM_Fin, double dPoint_Fin,
                                      double dTauxInflation, double dHrsHebdo,
                                      double dTauxTempsPartiel);
-  void CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
-                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                                        const RsRef& RsVarSalariesHisto,
-                                        const RsRef& RsSalariesHisto);
-  // The officials' withholding of the historic method, as in the current engine.
-  RsRef EnregistreDetailRetenueSource();
-  void CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
-                                          SalarieCalculRubrique& Rubrique,
-                                          const RsRef& RsVariablesSalaries);
 
-  // ---- Strike, daily benefits, differential allowance, officials' new method (h3) --------
+  // ---- Strike, daily benefits, differential allowance, officials' new method (historic/) --
   // Strike counters only; the treatment of the month before net of dMtRetenueTbiMoisPrec.
   void CalculRubrique_Greve(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                             const RsRef& RsVarSalaries, const std::string& sVariante,
@@ -315,14 +207,6 @@ class MethodeCalculG : public MoteurCalcul {
                                                           SalarieCalculRubrique& Rubrique,
                                                           const RsRef& RsVariablesSalaries);
   RsRef EnregistreDetailRetenueSource_NouvelleMethode();
-  // As in the current engine.
-  void CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries, double& dFraisMandat,
-                                         double& dPlafondPeriode, double& dPeriodesAn,
-                                         double& dMoisPeriode, double& dCoefBareme);
-  void CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries, double dNetImposable,
-                                  double dPeriodesAn, double& dTauxTranche,
-                                  double& dTrancheBasse, double& dTrancheHaute,
-                                  double& dConstante);
 };
 
 }  // namespace orvalis

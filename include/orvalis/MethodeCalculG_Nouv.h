@@ -77,9 +77,6 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   double dArbitrageJours(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                          SalarieCalculRubrique& Rubrique);
   // ---- Generic pay lines (generic/) ------------------------------------------------------
-  void CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                               const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
-                               const RsRef& RsSalariesHisto);
   void CalculRubrique_BaseTaux_Detachement(VarCalculSalarie& InfosSalaries,
                                            const RsRef& RsVarSalaries,
                                            const RsRef& RsVarSalariesHisto,
@@ -94,39 +91,6 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   void CalculTauxHoraireMoisPrec(double dCoeffMajoration, VarCalculSalarie& InfosSalaries,
                                  const RsRef& RsVarSalariesHisto, const RsRef& RsSalariesHisto,
                                  double& dValeur, std::string& sType);
-  void CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                       const RsRef& RsVarSalariesHisto,
-                                       SalarieCalculRubrique& Rubrique,
-                                       const RsRef& RsSalariesHisto);
-  void CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
-                                           const RsRef& RsVarSalaries,
-                                           const RsRef& RsVarSalariesHisto,
-                                           SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& InfosSalaries,
-                                                    const RsRef& RsVarSalaries,
-                                                    const RsRef& RsVarSalariesHisto,
-                                                    SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                    const RsRef& RsVarSalariesHisto,
-                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                   const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
-                                   const RsRef& RsSalariesHisto);
-  void CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                  const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
-                                  const RsRef& RsSalariesHisto);
-  void CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                        const RsRef& RsVarSalariesHisto,
-                                        SalarieCalculRubrique& Rubrique,
-                                        const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
-                                            const RsRef& RsVarSalaries,
-                                            const RsRef& RsVarSalariesHisto,
-                                            SalarieCalculRubrique& Rubrique,
-                                            const RsRef& RsSalariesHisto);
-  void CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
-                                    const RsRef& RsVarSalariesHisto,
-                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
 
   // ---- Period preparation (period/) ------------------------------------------------------
   Int16 iNbJoursReelsPeriode(VarCalculSalarie& InfosSalaries, const std::string& sPeriode);
@@ -199,9 +163,6 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   double dNetAPayerAvantPAS(VarCalculSalarie& InfosSalaries);
   double CalculPrelevementALaSource_Tauxold(VarCalculSalarie& InfosSalaries, double& dBase,
                                             std::string& sDesignationRubrique);
-  void CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
-                                          SalarieCalculRubrique& Rubrique,
-                                          const RsRef& RsVariablesSalaries);
   void CalculRubrique_Retenue_a_la_source_NouvelleMethode(VarCalculSalarie& InfosSalaries,
                                                           SalarieCalculRubrique& Rubrique,
                                                           const RsRef& RsVariablesSalaries);
@@ -216,25 +177,9 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   RsRef EnregistreDetailPrelevementElu();
 
   // ---- Withholding on elected officials' allowances (contributions/) ---------------------
-  // New, empty detail tables of the withholding: the historic one (rsRetenueALaSource) and
-  // the one of the new method (rsRetenueALaSourceNouvelleMethode).
-  RsRef EnregistreDetailRetenueSource();
   RsRef EnregistreDetailRetenueSource_NouvelleMethode();
-  // The frame of one payment period of the official: the expenses allowance of a mandate,
-  // the social security ceiling of the period, periods a year, months a period, and the
-  // coefficient that brings a constant of the tax scale to the payment periodicity.
-  void CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries, double& dFraisMandat,
-                                         double& dPlafondPeriode, double& dPeriodesAn,
-                                         double& dMoisPeriode, double& dCoefBareme);
-  // The tranche of the officials' tax scale for a net taxable amount of the period.
-  void CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries, double dNetImposable,
-                                  double dPeriodesAn, double& dTauxTranche,
-                                  double& dTrancheBasse, double& dTrancheHaute,
-                                  double& dConstante);
 
   // ---- Salary elements (salary/) ---------------------------------------------------------
-  void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
-                                            const std::string& sPeriode);
   void CalculCoefficientDemiTraitement(VarCalculSalarie& InfosSalaries, const std::string& sType);
   void CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(VarCalculSalarie& InfosSalaries,
                                                            SalarieCalculRubrique& Rubrique);
@@ -256,8 +201,6 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                                         SalarieCalculRubrique& Rubrique);
   void CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& InfosSalaries,
                                                SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
-                                                SalarieCalculRubrique& Rubrique);
   void CalculRubrique_DemiTraitementIndiciaire(VarCalculSalarie& InfosSalaries,
                                                SalarieCalculRubrique& Rubrique,
                                                const std::string& sVariante);
@@ -279,53 +222,8 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                          SalarieCalculRubrique& Rubrique);
   void CalculRubrique_CPA(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
   void CalculRubrique_CFA(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
-                                            SalarieCalculRubrique& Rubrique,
-                                            const RsRef& RsVarSalaries);
-  void CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& InfosSalaries,
-                                                SalarieCalculRubrique& Rubrique,
-                                                const RsRef& RsVarSalaries,
-                                                const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                 const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
-                                     SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                                     const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
-                                    SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                                    const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                              const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                  const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
-                                         SalarieCalculRubrique& Rubrique,
-                                         const RsRef& RsVarSalaries, const std::string& sNomcalcul);
-  void CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& InfosSalaries,
-                                             SalarieCalculRubrique& Rubrique,
-                                             const RsRef& RsVarSalaries,
-                                             const RsRef& RsVarSalariesHisto,
-                                             const std::string& sNomcalcul);
-  void CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                               const RsRef& RsVarSalaries);
-  void CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
-                                   const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
-  void CalculRubrique_PrimeInformatique(VarCalculSalarie& InfosSalaries,
-                                        SalarieCalculRubrique& Rubrique,
-                                        const RsRef& RsVarSalaries);
-  void CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
-                                      SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_CreditMunicipal(VarCalculSalarie& InfosSalaries,
-                                      SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
-  void CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& InfosSalaries,
-                                                SalarieCalculRubrique& Rubrique,
-                                                const RsRef& RsVarSalaries);
   void CalculRubrique_Iat(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                           const RsRef& RsVarSalaries);
-  void CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
-                                            SalarieCalculRubrique& Rubrique);
   void CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
                                          SalarieCalculRubrique& Rubrique);
   void CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
@@ -341,20 +239,12 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                                 const RsRef& RsVarSalariesHisto,
                                                 SalarieCalculRubrique& Rubrique,
                                                 const RsRef& RsSalariesHisto);
-  void CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
-                                          const RsRef& RsVarSalaries,
-                                          SalarieCalculRubrique& Rubrique);
   void CalculRubrique_TraitementIndiciaireElusMois(VarCalculSalarie& InfosSalaries,
                                                    SalarieCalculRubrique& Rubrique);
   void CalculRubrique_TraitementForfaitaireElusMois(VarCalculSalarie& InfosSalaries,
                                                     SalarieCalculRubrique& Rubrique);
   void CalculRubrique_TraitementIndiciaireElusPrecedentMois(VarCalculSalarie& InfosSalaries,
                                                             SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
-                                         const RsRef& RsVarSalaries,
-                                         SalarieCalculRubrique& Rubrique);
-  void CalculRubrique_MontantReference(VarCalculSalarie& InfosSalaries,
-                                       SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
   void CalculRubrique_ReversementSFT(VarCalculSalarie& InfosSalaries,
                                      SalarieCalculRubrique& Rubrique);
   void CalculRubrique_TraitementJournalierSmic(VarCalculSalarie& InfosSalaries,
@@ -385,15 +275,6 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
   double dRechercheIndMajEluPeriode(VarCalculSalarie& InfosSalaries, const std::string& sPeriode,
                                     const std::string& sDecalage, double& dResultat,
                                     double dTaux);
-
-  // ---- Mileage scale (salary/) -----------------------------------------------------------
-  // One journey of lKmParcouru km in a vehicle of lKmPuissance fiscal horsepower, lKmCumule
-  // km having been driven before it in the year: the rate of the band of that distance for
-  // lKm1 km and, for the part past the band's end, the rate of the next band for lKm2 km.
-  // Gives the amount, also written to dMontant.
-  double dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance, Int32 lKmCumule,
-                             double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
-                             double& dMontant);
 
   // ---- Half pay (salary/) ------------------------------------------------------------------
   // The half-pay days of the line into the four quadrant counts (IATA, IATN, INTA, INTN):
@@ -469,10 +350,6 @@ class MethodeCalculG_Nouv : public MoteurCalcul {
                                                              double& dMtFillonDejaCotise,
                                                              bool bCalculFillon, bool bCalculMSA);
   bool bDeclenchementComplementTauxCotisations(VarCalculSalarie& InfosSalaries, bool blnMsa);
-  void CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
-                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                                        const RsRef& RsVarSalariesHisto,
-                                        const RsRef& RsSalariesHisto);
   void CalculRubrique_ReductionHS(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
                                   const RsRef& RsVarSalaries);
   void CalculRubrique_RappelReductionHS(VarCalculSalarie& InfosSalaries,

@@ -137,6 +137,131 @@ class MoteurCalcul {
   virtual double TauxPatronalDeLigne(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
                                      SalarieCalculRubrique& Rubrique, std::string& sType) = 0;
 
+  // ---- Pay lines with one body in both engines -----------------------------------------
+  // They read a line through the four reads above and the lookups of this frame, so the
+  // same body serves the current and the historic engine.
+  void CalculCoefficientUtilisationTauxElus(VarCalculSalarie& InfosSalaries,
+                                            const std::string& sPeriode);
+  // The tranche of the officials' tax scale for a net taxable amount of the period.
+  void CalculRetenueSource_Bareme(VarCalculSalarie& InfosSalaries, double dNetImposable,
+                                  double dPeriodesAn, double& dTauxTranche,
+                                  double& dTrancheBasse, double& dTrancheHaute,
+                                  double& dConstante);
+  // The frame of one payment period of the official: the expenses allowance of a mandate,
+  // the social security ceiling of the period, periods a year, months a period, and the
+  // coefficient that brings a constant of the tax scale to the payment periodicity.
+  void CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries, double& dFraisMandat,
+                                         double& dPlafondPeriode, double& dPeriodesAn,
+                                         double& dMoisPeriode, double& dCoefBareme);
+  void CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
+                                          const RsRef& RsVarSalaries,
+                                          SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_BaseProrata30(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseProrata30ADeduire(VarCalculSalarie& InfosSalaries,
+                                            const RsRef& RsVarSalaries,
+                                            const RsRef& RsVarSalariesHisto,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTaux(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                               const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTauxChoix(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsSalariesHisto);
+  void CalculRubrique_BaseTauxSmic(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                   const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsSalariesHisto);
+  void CalculRubrique_CnraclRetroactive(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsVarSalaries);
+  void CalculRubrique_CreditMunicipal(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
+  void CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
+                                      SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                 const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
+                                     SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                     const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                              const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
+                                         SalarieCalculRubrique& Rubrique,
+                                         const RsRef& RsVarSalaries, const std::string& sNomcalcul);
+  void CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique,
+                                             const RsRef& RsVarSalaries,
+                                             const RsRef& RsVarSalariesHisto,
+                                             const std::string& sNomcalcul);
+  void CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                                const RsRef& RsVarSalaries);
+  void CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
+                                    SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                                    const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique,
+                                            const RsRef& RsVarSalaries);
+  void CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& RsVarSalariesHisto);
+  void CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
+                                         const RsRef& RsVarSalaries,
+                                         SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
+                                            SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Indice_Reference(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                       const RsRef& RsVarSalariesHisto,
+                                       SalarieCalculRubrique& Rubrique,
+                                       const RsRef& RsSalariesHisto);
+  void CalculRubrique_Indice_Reference_CAS(VarCalculSalarie& InfosSalaries,
+                                           const RsRef& RsVarSalaries,
+                                           const RsRef& RsVarSalariesHisto,
+                                           SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_Indice_Reference_CAS_Communal(VarCalculSalarie& InfosSalaries,
+                                                    const RsRef& RsVarSalaries,
+                                                    const RsRef& RsVarSalariesHisto,
+                                                    SalarieCalculRubrique& Rubrique);
+  void CalculRubrique_MontantFixe(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                  const RsRef& RsVarSalariesHisto, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsSalariesHisto);
+  void CalculRubrique_MontantFixeAnnuel(VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries,
+                                        const RsRef& RsVarSalariesHisto,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsSalariesHisto);
+  void CalculRubrique_MontantReference(VarCalculSalarie& InfosSalaries,
+                                       SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries);
+  void CalculRubrique_PrimeInformatique(VarCalculSalarie& InfosSalaries,
+                                        SalarieCalculRubrique& Rubrique,
+                                        const RsRef& RsVarSalaries);
+  void CalculRubrique_Retenue_a_la_source(VarCalculSalarie& InfosSalaries,
+                                          SalarieCalculRubrique& Rubrique,
+                                          const RsRef& RsVariablesSalaries);
+  void CalculRubrique_TraitementForfaitaireElus(VarCalculSalarie& InfosSalaries,
+                                                SalarieCalculRubrique& Rubrique);
+  // New, empty detail tables of the withholding: the historic one (rsRetenueALaSource) and
+  // the one of the new method (rsRetenueALaSourceNouvelleMethode).
+  RsRef EnregistreDetailRetenueSource();
+  // One journey of lKmParcouru km in a vehicle of lKmPuissance fiscal horsepower, lKmCumule
+  // km having been driven before it in the year: the rate of the band of that distance for
+  // lKm1 km and, for the part past the band's end, the rate of the next band for lKm2 km.
+  // Gives the amount, also written to dMontant.
+  double dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance, Int32 lKmCumule,
+                             double& dTaux1, double& dTaux2, Int32& lKm1, Int32& lKm2,
+                             double& dMontant);
+
  protected:
   MoteurCalcul();  // Class_Initialize
 
