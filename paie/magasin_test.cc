@@ -248,8 +248,9 @@ TEST_P(MagasinTest, TextesPiegesGardesTelsQuels) {
   const std::string designation = "Traitement ' OR '1'='1 ; 工资";
   {
     auto b = OuvreConnexion(c);
-    Requete u = b->Prepare("UPDATE salaries SET nom = ?, prenom = ?, emploi = ?, adresse = ?");
-    u.Lie(1, nom).Lie(2, prenom).Lie(3, designation).Lie(4, nom + prenom).Execute();
+    Requete u = b->Prepare(
+        "UPDATE salaries SET nom = ?, prenom = ?, emploi = ?, adresse = ?, sMatricule = ?");
+    u.Lie(1, nom).Lie(2, prenom).Lie(3, designation).Lie(4, nom + prenom).Lie(5, "M'1; --" + prenom).Execute();
     Requete r = b->Prepare("UPDATE rubriques SET sDesignation = ? WHERE lIdRubrique = 100");
     r.Lie(1, designation).Execute();
     Requete e = b->Prepare("UPDATE employeur SET nom = ?, adresse = ?");
@@ -265,6 +266,7 @@ TEST_P(MagasinTest, TextesPiegesGardesTelsQuels) {
   EXPECT_EQ(r.bulletins[0].prenom, prenom);
   EXPECT_EQ(r.bulletins[0].emploi, designation);
   EXPECT_EQ(r.bulletins[0].adresse, nom + prenom);
+  EXPECT_EQ(r.bulletins[0].sMatricule, "M'1; --" + prenom);
   ASSERT_NE(Ligne(r.bulletins[0], "TRAITIND"), nullptr);
   EXPECT_EQ(Ligne(r.bulletins[0], "TRAITIND")->sDesignation, designation);
   EXPECT_TRUE(OuvreConnexion(c)->TableExiste("lignes"));

@@ -200,6 +200,28 @@ TEST_P(TravailTest, TravailleurDUneAutreVersion) {
   EXPECT_EQ(Nombre(c, "SELECT count(*) FROM bulletins"), 0);
 }
 
+// A worker under a role that owns nothing, with the grants of docs/paie-postgresql.md.
+TEST_P(TravailTest, RoleDeTravailAvecSesSeulsDroits) {
+  if (ServeurPgTest::Instance().Dossier().empty()) GTEST_SKIP() << "roles are made on the test server only";
+  const std::string c = Commune(4);
+  const std::string s = schema_;
+  Sql(c, "DO $$ BEGIN IF NOT EXISTS (SELECT 1 FROM pg_roles WHERE rolname = 'paie_travail') THEN "
+         "CREATE ROLE paie_travail LOGIN; END IF; END $$;"
+         "GRANT USAGE ON SCHEMA " + s + " TO paie_travail;"
+         "GRANT SELECT ON ALL TABLES IN SCHEMA " + s + " TO paie_travail;"
+         "GRANT INSERT, UPDATE, DELETE ON " + s + ".calculs, " + s + ".lots, " + s + ".bulletins, " +
+         s + ".lignes, " + s + ".cumuls_salarie TO paie_travail");
+  const std::string travail = "host=" + ServeurPgTest::Instance().Dossier() +
+                              " dbname=postgres user=paie_travail options='-c search_path=" + s + "'";
+  const BilanTravail b = TravailleMois(travail, "2024-03", Options(3));
+  EXPECT_TRUE(b.publie);
+  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM bulletins"), 4);
+  // The reference data stays out of its reach.
+  EXPECT_THROW(OuvreConnexion(travail)->Execute("DELETE FROM taux"), ErreurMagasin);
+  Sql(c, "REVOKE ALL ON ALL TABLES IN SCHEMA " + s + " FROM paie_travail; "
+         "REVOKE ALL ON SCHEMA " + s + " FROM paie_travail");
+}
+
 // Two runs of one month started at once: one computes it, the other is refused; never two
 // months. With --worker, the second joins.
 TEST_P(TravailTest, DeuxLancementsDuMemeMois) {

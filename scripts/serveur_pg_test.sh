@@ -8,6 +8,9 @@
 #                                    PID, a watcher stops and removes it when PID ends
 #   serveur_pg_test.sh stop FOLDER   stops it and removes the folder
 #
+# The tests' server does not wait for the disk (fsync off); ORVALIS_PG_DURABLE=1 keeps
+# PostgreSQL's defaults (the benchmark does).
+#
 # Exit status 3: the PostgreSQL binaries are absent (the tests that need them are skipped).
 set -euo pipefail
 
@@ -42,9 +45,12 @@ case "${1:-}" in
     # The password role first: its line wins over the trust of every other role.
     printf 'local all orvalis_mdp scram-sha-256\nlocal all all trust\n' >"$dossier/hba"
     "${comme[@]}" cp "$dossier/hba" "$dossier/data/pg_hba.conf"
+    options="-c listen_addresses='' -k $dossier -c max_connections=60"
+    if [ "${ORVALIS_PG_DURABLE:-0}" != 1 ]; then
+      options="$options -c fsync=off -c synchronous_commit=off -c full_page_writes=off"
+    fi
     "${comme[@]}" "$bindir/pg_ctl" -D "$dossier/data" -l "$dossier/server.log" -w -t 60 \
-      -o "-c listen_addresses='' -k $dossier -c fsync=off -c synchronous_commit=off -c full_page_writes=off -c max_connections=60" \
-      start >/dev/null
+      -o "$options" start >/dev/null
     "$bindir/psql" -X -q -h "$dossier" -U postgres -d postgres -v ON_ERROR_STOP=1 \
       -c "CREATE ROLE orvalis_mdp LOGIN PASSWORD 'Sesame-7Tr3sSecret'" >/dev/null
     if [ -n "${2:-}" ]; then
