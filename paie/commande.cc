@@ -122,18 +122,18 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
       "(\"service=paie\"); what a URI leaves out comes from PGHOST, PGDATABASE, PGUSER, ...";
   // The store comes first or as --store; the other positional arguments follow it.
   std::vector<std::string> positionnels;
-  auto ajouteStore = [&](CLI::App* c, const char* suite) {
+  auto ajouteStore = [&](CLI::App* c, const char* noms, const char* aide) {
     c->add_option("--store", store, aideStore);
-    c->add_option(suite, positionnels, std::string("STORE (unless --store), then ") + suite);
+    c->add_option(noms, positionnels, std::string("the STORE (unless --store is given)") + aide);
   };
 
   auto* demo = app.add_subcommand("demo", "create the sample commune in a new store");
-  ajouteStore(demo, "STORE");
+  ajouteStore(demo, "STORE", "");
   demo->add_option("--agents", agents, "number of agents (40 by default)")->check(CLI::Range(1, 1000000));
   demo->add_flag("--replace", remplacer, "replace the store if the file exists (empty the database)");
 
   auto* paie = app.add_subcommand("paie", "compute a month for every employee of the store");
-  ajouteStore(paie, "MONTH");
+  ajouteStore(paie, "STORE_MONTH", ", then the MONTH, as 2024-03");
   paie->add_flag("--replace", remplacer, "compute a month already written again, replacing it");
   paie->add_option("--payslips", dossier, "also write the month's payslips into this folder");
   paie->add_flag("--worker", travail.rejoindre,
@@ -143,7 +143,8 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
       ->check(CLI::Range(1, 1000000));
 
   auto* bulletins = app.add_subcommand("bulletins", "write the payslips of a computed month");
-  ajouteStore(bulletins, "MONTH FOLDER");
+  ajouteStore(bulletins, "STORE_MONTH_FOLDER",
+              ", the MONTH, as 2024-03, and the FOLDER to write (created if needed)");
 
   auto* copie = app.add_subcommand("copie", "copy a store into another whose tables are empty");
   copie->add_option("SOURCE", store, "the store to copy")->required();

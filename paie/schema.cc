@@ -146,6 +146,9 @@ CREATE TABLE lots (
   fait INTEGER NOT NULL DEFAULT 0,
   travailleur TEXT, fin TEXT, secondes DOUBLE PRECISION, lignes INTEGER, echecs INTEGER,
   PRIMARY KEY (mois, lot));
+
+-- A month removed (--replace) removes its totals through their payslip: found by this index.
+CREATE INDEX cumuls_salarie_bulletin ON cumuls_salarie (mois, lIdSalarie);
 )sql";
 
 // The tables whose rows are named by their rowid in messages: PostgreSQL has no rowid, so it

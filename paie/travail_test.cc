@@ -65,7 +65,7 @@ Processus Lance(const std::vector<std::string>& args, const std::string& prefixe
   return p;
 }
 
-// Waits until the condition holds (true) or ten seconds pass (false).
+// Waits until the condition holds (true) or twenty seconds pass (false).
 template <typename F>
 bool Attends(F condition) {
   const auto limite = std::chrono::steady_clock::now() + 20s;
@@ -239,8 +239,8 @@ TEST_P(TravailTest, DeuxLancementsDuMemeMois) {
   EXPECT_EQ(Nombre(c, "SELECT count(*) FROM (SELECT DISTINCT mois, lIdSalarie, ordre FROM lignes) x"),
             Nombre(c, "SELECT count(*) FROM lignes"));
 
-  Processus x = Lance({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("x"), 150);
-  Processus y = Lance({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("y"), 150);
+  Processus x = Lance({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("x"), 300);
+  Processus y = Lance({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("y"), 300);
   EXPECT_EQ(x.Attend(), 0) << Processus::Lit(x.erreurs);
   EXPECT_EQ(y.Attend(), 0) << Processus::Lit(y.erreurs);
   EXPECT_EQ(Nombre(c, "SELECT count(*) FROM calculs WHERE mois = '202404' AND publie = 1"), 1);
@@ -319,7 +319,7 @@ TEST_P(TravailTest, SQLiteUnProcessusEtTroisTravailleursDontUnTue) {
   for (const char* mois : {"2024-03", "2024-04"}) {
     std::vector<Processus> p;
     for (int i = 0; i < 3; ++i)
-      p.push_back(Lance({"paie", trois, mois, "--worker", "--batch", "3"}, Chemin(mois + std::to_string(i)), 100));
+      p.push_back(Lance({"paie", trois, mois, "--worker", "--batch", "2"}, Chemin(mois + std::to_string(i)), 150));
     if (std::string(mois) == "2024-03") {
       // The first is killed once it has written a batch and holds another.
       ASSERT_TRUE(Attends([&] {

@@ -17,14 +17,16 @@ bindir=$(pg_config --bindir 2>/dev/null || echo /usr/lib/postgresql/15/bin)
 
 fichier=$(mktemp -u "${TMPDIR:-/tmp}/orvalis-bench.XXXXXX").db
 dossier=$(ORVALIS_PG_DURABLE=1 scripts/serveur_pg_test.sh start $$)
-trap 'scripts/serveur_pg_test.sh stop "$dossier"; rm -f "$fichier"' EXIT
+trap 'scripts/serveur_pg_test.sh stop "$dossier"; rm -f "$fichier" "$fichier.out"' EXIT
 adresse="host=$dossier dbname=postgres user=postgres"
 psql() { "$bindir/psql" -X -q -At -h "$dossier" -U postgres -d postgres -c "$1"; }
 
+# The wall time of a command, its output into $sortie.
+sortie=$fichier.out
 secondes() {
   local debut fin
   debut=$(date +%s.%N)
-  "$@"
+  "$@" >"$sortie"
   fin=$(date +%s.%N)
   echo "$fin - $debut" | bc -l
 }
@@ -34,12 +36,11 @@ echo "building the commune of $agents agents..." >&2
 "$orvalis" copie "$fichier" "$adresse" >/dev/null
 psql "VACUUM ANALYZE"
 
-t_sqlite=$(secondes "$orvalis" paie "$fichier" 2024-03 >"$fichier.out")
-lignes=$(sed -n 's/.* employees, \([0-9]*\) lines.*/\1/p' "$fichier.out")
-rm -f "$fichier.out"
+t_sqlite=$(secondes "$orvalis" paie "$fichier" 2024-03)
+lignes=$(sed -n 's/.* employees, \([0-9]*\) lines.*/\1/p' "$sortie")
 echo "SQLite, one process: $t_sqlite s" >&2
 
-t_pg1=$(secondes "$orvalis" paie "$adresse" 2024-03 --batch "$lot" >/dev/null)
+t_pg1=$(secondes "$orvalis" paie "$adresse" 2024-03 --batch "$lot")
 echo "PostgreSQL, one process: $t_pg1 s" >&2
 psql "SELECT lignes FROM calculs WHERE mois = '202403'" | grep -qx "$lignes" ||
   { echo "PostgreSQL wrote another number of lines than SQLite" >&2; exit 1; }
@@ -48,7 +49,7 @@ psql "DELETE FROM calculs WHERE mois = '202403'; VACUUM ANALYZE"
 deux() {
   "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" >/dev/null &
   local autre=$!
-  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" >/dev/null
+  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot"
   wait "$autre"
 }
 t_pg2=$(secondes deux)
