@@ -1,6 +1,8 @@
 // Deductions for days, half days and hours not worked: strike, other unpaid absences and the
 // three waiting-day blocks, of this month ("GREVE") or of the month before ("GREVE MOIS
 // PRECEDENT"). The pay-line code says which counters are read.
+#include "absences/greve.h"
+
 #include <string>
 #include <vector>
 
@@ -8,14 +10,44 @@
 
 namespace orvalis {
 
+namespace greve {
+
+Compteurs CompteursGreve(const VarCalculSalarie& s, bool bPrec) {
+  if (bPrec) return {s.dGreveJoursPrec, s.dGreveDemiJoursPrec, s.dGreveHeuresPrec};
+  return {s.dGreveJours, s.dGreveDemiJours, s.dGreveHeures};
+}
+
+double HeuresDuMois(MoteurCalcul& m, const VarCalculSalarie& s, bool bMoisPrecedent,
+                    const RsRef& RsVarSalaries, const RsRef& RsSalariesHisto,
+                    const RsRef& RsVarSalariesHisto) {
+  if (bMoisPrecedent) {
+    return m.dRechercheHeuresMoisHistorique(RsSalariesHisto, s.lIdSalarie, m.gPeriodeEncours) +
+           m.dRechercheValeur_Variable(RsVarSalariesHisto, "HEURESA");
+  }
+  return s.dHeuresMois + m.dRechercheValeur_Variable(RsVarSalaries, "HEURESA");
+}
+
+double MontantRetenu(const Compteurs& c, double B, double M) {
+  double A = 0;
+  if (c.T > 0) A = c.T * B / 30;
+  if (c.H > 0) A = A + B * c.H / 60;
+  if (c.U > 0 && M > 0) A = A + c.U * B / M;
+  return A;
+}
+
+void EcritRetenue(SalarieCalculRubrique& Rubrique, double B, double A) {
+  Rubrique.dBase = B;
+  Rubrique.dTauxSalarial = 0;
+  Rubrique.dMontantSalarial = 0 - A;  // no negative zero when nothing is taken back
+  Rubrique.dTauxPatronal = 0;
+  Rubrique.dMontantPatronal = 0;
+}
+
+}  // namespace greve
+
 namespace {
 
-// Days, half days and hours of one absence, read from the employee record.
-struct Compteurs {
-  double T = 0;  // days
-  double H = 0;  // half days
-  double U = 0;  // hours
-};
+using greve::Compteurs;
 
 // A family of pay-line codes and the counters it reads, of the month ("N") or of the month
 // before ("A").
@@ -23,11 +55,6 @@ struct FamilleAbsence {
   std::vector<std::string> codes;
   Compteurs (*lire)(const VarCalculSalarie& s, bool bMoisPrecedent);
 };
-
-Compteurs LireGreve(const VarCalculSalarie& s, bool bPrec) {
-  if (bPrec) return {s.dGreveJoursPrec, s.dGreveDemiJoursPrec, s.dGreveHeuresPrec};
-  return {s.dGreveJours, s.dGreveDemiJours, s.dGreveHeures};
-}
 
 Compteurs LireAutreAbsence(const VarCalculSalarie& s, bool bPrec) {
   if (bPrec) {
@@ -60,7 +87,7 @@ const std::vector<FamilleAbsence>& Familles() {
   static const std::vector<FamilleAbsence> kFamilles = {
       {{"RETGREVETR", "RETGREVENB", "RETGREVEIR", "RETGREVEPR", "RETGREVEPRSTPP", "RETGREVPTR",
         "RETGREVPNB", "RETGREVPIR", "RETGREVPPR", "RETGREVPPRSTPP", "RETGREVETPP", "RETGREVEPTPP"},
-       &LireGreve},
+       &greve::CompteursGreve},
       {{"RETABSENCETR", "RETABSENCENB", "RETABSENCEIR", "RETABSENCEPR", "RETABSENCEPRSTPP",
         "RETABSENCEPTR", "RETABSENCEPNB", "RETABSENCEPIR", "RETABSENCEPPR", "RETABSENCEPPRSTPP",
         "RETABSENCETPP", "RETABSENCEPTPP"},
@@ -101,28 +128,15 @@ void MethodeCalculG_Nouv::CalculRubrique_Greve(
   double M = 0;  // hours of the month
   if (const FamilleAbsence* f = FamilleDuCode(Rubrique.sCodeRubrique)) {
     c = f->lire(InfosSalaries, bMoisPrecedent);
-    if (bMoisPrecedent) {
-      M = dRechercheHeuresMoisHistorique(RsSalariesHisto, InfosSalaries.lIdSalarie,
-                                         gPeriodeEncours) +
-          dRechercheValeur_Variable(RsVarSalariesHisto, "HEURESA");
-    } else {
-      M = InfosSalaries.dHeuresMois + dRechercheValeur_Variable(RsVarSalaries, "HEURESA");
-    }
+    M = greve::HeuresDuMois(*this, InfosSalaries, bMoisPrecedent, RsVarSalaries, RsSalariesHisto,
+                            RsVarSalariesHisto);
   }
-
-  double A = 0;
-  if (c.T > 0) A = c.T * B / 30;
-  if (c.H > 0) A = A + B * c.H / 60;
-  if (c.U > 0 && M > 0) A = A + c.U * B / M;
+  const double A = greve::MontantRetenu(c, B, M);
 
   // The amount stays a deduction when the base is shown negative.
   if (BaseNegative(Rubrique.sCodeRubrique)) B = B * -1;
 
-  Rubrique.dBase = B;
-  Rubrique.dTauxSalarial = 0;
-  Rubrique.dMontantSalarial = 0 - A;  // no negative zero when nothing is taken back
-  Rubrique.dTauxPatronal = 0;
-  Rubrique.dMontantPatronal = 0;
+  greve::EcritRetenue(Rubrique, B, A);
 }
 
 }  // namespace orvalis

@@ -1,31 +1,23 @@
 // Differential allowance: tops the month's base up to what the minimum wage gives for the
 // days actually paid, old and new rate of the month apart, on a month of 30 days.
+#include "absences/indemnite_differentielle.h"
+
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/value.h"
 
 namespace orvalis {
 
-namespace {
+namespace differentielle {
 
-enum class Variante { kPremiere, kNouv, kMayotte };
+namespace {
 
 // Monthly hours of the minimum in Mayotte, whatever the statutory table says.
 constexpr double kHeuresMoisMayotte = 169;
 // The index at or below which no allowance is due when the constant is absent or 0.
 constexpr double kIndiceNonImposableParDefaut = 200;
 
-// A day count of one half, its two quadrants (IATA and INTA, or IATN and INTN).
-struct Paire {
-  Int16 i1, i2;
-};
-
-// One half of the month, old rate or new rate.
-struct Moitie {
-  Paire presence, cfa, formation, cpa, demiTraitement, dispoOffice, traitement90, deuxTiers;
-  double dCoefficientTraitement;
-  double dCoefficientAutreAbsence;
-};
+}  // namespace
 
 Moitie AncienTaux(const VarCalculSalarie& s) {
   return {.presence = {s.iNBJ_PresenceIATA, s.iNBJ_PresenceINTA},
@@ -52,6 +44,8 @@ Moitie NouveauTaux(const VarCalculSalarie& s) {
           .dCoefficientTraitement = s.dCoefficient_TraitementTN,
           .dCoefficientAutreAbsence = s.dCoefficient_INTN};
 }
+
+namespace {
 
 // 16-bit: an overflow is a fault.
 Int16 Moins(Int16 iJours, const Paire& p) { return iJours - p.i1 - p.i2; }
@@ -81,16 +75,18 @@ double PlancherMoitie(const Moitie& h, const VarCalculSalarie& s, Variante v, do
 // A total taken off the base passes through its text of 15 significant digits.
 double ParSonTexte(double d) { return Value(TexteNombre(d)).Nombre(); }
 
+}  // namespace
+
 void IndemniteDifferentielle(MoteurCalcul& m, Variante v, VarCalculSalarie& s,
-                             SalarieCalculRubrique& Rubrique, const RsRef* RsVarSalaries) {
+                             SalarieCalculRubrique& Rubrique, const RsRef* RsVarSalaries,
+                             const Moitie& ancien, const Moitie& nouveau) {
   double D = 0;
   double I = m.dRechercheValeur_Constantes(m.gRsConstantes, "INDNONIMR");
   if (I == 0) I = kIndiceNonImposableParDefaut;
   if (s.dIndiceMajoreM > I) {
     const double S = (v == Variante::kMayotte ? kHeuresMoisMayotte : m.ConstanteFixe("HrsMois")) *
                      m.ConstanteFixe("SmicHor");
-    const double FA = PlancherMoitie(AncienTaux(s), s, v, S);
-    const Moitie nouveau = NouveauTaux(s);
+    const double FA = PlancherMoitie(ancien, s, v, S);
     double FN = PlancherMoitie(nouveau, s, v, S);
     if (v != Variante::kPremiere && nouveau.presence.i1 + nouveau.presence.i2 != 0) {
       // Days to pay scale the new-rate half alone, at 7 hours a day of a 151.67-hour month.
@@ -120,21 +116,29 @@ void IndemniteDifferentielle(MoteurCalcul& m, Variante v, VarCalculSalarie& s,
   s.dMt_IndemniteDifferentielle = Rubrique.dMontantSalarial;
 }
 
-}  // namespace
+}  // namespace differentielle
+
+using differentielle::AncienTaux;
+using differentielle::IndemniteDifferentielle;
+using differentielle::NouveauTaux;
+using differentielle::Variante;
 
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle(VarCalculSalarie& InfosSalaries,
                                                                   SalarieCalculRubrique& Rubrique) {
-  IndemniteDifferentielle(*this, Variante::kPremiere, InfosSalaries, Rubrique, nullptr);
+  IndemniteDifferentielle(*this, Variante::kPremiere, InfosSalaries, Rubrique, nullptr,
+                          AncienTaux(InfosSalaries), NouveauTaux(InfosSalaries));
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Nouv(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries) {
-  IndemniteDifferentielle(*this, Variante::kNouv, InfosSalaries, Rubrique, &RsVarSalaries);
+  IndemniteDifferentielle(*this, Variante::kNouv, InfosSalaries, Rubrique, &RsVarSalaries,
+                          AncienTaux(InfosSalaries), NouveauTaux(InfosSalaries));
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_Differentielle_Mayotte(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries) {
-  IndemniteDifferentielle(*this, Variante::kMayotte, InfosSalaries, Rubrique, &RsVarSalaries);
+  IndemniteDifferentielle(*this, Variante::kMayotte, InfosSalaries, Rubrique, &RsVarSalaries,
+                          AncienTaux(InfosSalaries), NouveauTaux(InfosSalaries));
 }
 
 }  // namespace orvalis

@@ -10,14 +10,6 @@ namespace {
 // "E": the only method of calculation the engine tells apart; the others are the host's.
 bool bMethodeE(const VarCalculSalarie& s) { return s.sMethodeCalculIJ == "E"; }
 
-void EcritDeduction(SalarieCalculRubrique& Rubrique, double dBase, double dMontant) {
-  Rubrique.dBase = dBase;
-  Rubrique.dTauxSalarial = 0;
-  Rubrique.dMontantSalarial = dMontant;
-  Rubrique.dTauxPatronal = 0;
-  Rubrique.dMontantPatronal = 0;
-}
-
 }  // namespace
 
 void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
@@ -25,9 +17,7 @@ void MethodeCalculG_Nouv::CalculRubrique_Indemnites_journalieres(VarCalculSalari
                                                                  const RsRef& RsSalariesHisto,
                                                                  bool bIJSubrogees) {
   // A subrogated line already calculated by the host under its own method is left alone.
-  if (bIJSubrogees && !bMethodeE(InfosSalaries) && !InfosSalaries.bPremierCalculIJ &&
-      InfosSalaries.bCalculIJ)
-    return;
+  if (bIJSubrogees && ij::LigneDeLHote(InfosSalaries)) return;
   Calcul_Indemnites_Journalieres_NouvelleMethode(InfosSalaries, Rubrique, RsSalariesHisto,
                                                  bIJSubrogees);
 }
@@ -59,7 +49,7 @@ void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(
     rs.ClearFilter();
   }
   if (bMethodeE(InfosSalaries) || !bIJSubrogees) {
-    EcritDeduction(Rubrique, S,
+    ij::EcritDeduction(Rubrique, S,
                    bIJSubrogees ? -InfosSalaries.dTotalIJMaladie - InfosSalaries.dTotalIJAT
                                 : -InfosSalaries.dTotalIJNonSubrogees);
   }
@@ -70,18 +60,10 @@ void MethodeCalculG_Nouv::Calcul_Indemnites_Journalieres_NouvelleMethode(
 void MethodeCalculG_Nouv::Calcul_Indemnites_journalieres(VarCalculSalarie& InfosSalaries,
                                                          SalarieCalculRubrique& Rubrique,
                                                          const RsRef& RsSalariesHisto) {
-  if (InfosSalaries.dIJPercu1 > 0 || InfosSalaries.dIJPercu2 > 0 || InfosSalaries.dIJPercu3 > 0)
-    Rubrique.rsIJ = ij::CreationTableIJ();
-  for (int i = 1; i <= 3; ++i) {
-    const ij::PeriodeIJ periode = ij::EmplacementIJ(InfosSalaries, i);
-    if (periode.dPercu > 0)
-      ij::CalculIJ_Periode(*this, InfosSalaries, RsSalariesHisto, periode, Rubrique);
-  }
-  if (bMethodeE(InfosSalaries)) {
-    EcritDeduction(Rubrique,
-                   InfosSalaries.dIJPercu1 + InfosSalaries.dIJPercu2 + InfosSalaries.dIJPercu3,
-                   -InfosSalaries.dTotalIJMaladie - InfosSalaries.dTotalIJAT);
-  }
+  ij::IndemnitesEmplacements(InfosSalaries, Rubrique, ij::ColonnesIJ::kToutes, [&](Int16 NumIJ) {
+    ij::CalculIJ_Periode(*this, InfosSalaries, RsSalariesHisto,
+                         ij::EmplacementIJ(InfosSalaries, NumIJ.value()), Rubrique);
+  });
 }
 
 }  // namespace orvalis

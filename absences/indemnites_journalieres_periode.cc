@@ -1,6 +1,8 @@
 // One period of daily benefits spread over the calendar months it touches.
 #include "absences/indemnites_journalieres_periode.h"
 
+#include <vector>
+
 #include "absences/montant_brut_mois.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
@@ -60,9 +62,11 @@ void AjouteAuxTotaux(Generation g, const PeriodeIJ& periode, bool bIJSubrogees, 
   }
 }
 
-void EtalePeriode(MoteurCalcul& m, Generation g, const PeriodeIJ& periode,
-                  VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
-                  SalarieCalculRubrique& Rubrique, bool bIJSubrogees) {
+// bNonPlafonnee: the benefit is retained whole and what passes the salary is guaranteed
+// income; otherwise the benefit retained never exceeds the salary of the month.
+void EtalePeriode(Generation g, const PeriodeIJ& periode,
+                  VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                  bool bIJSubrogees, bool bNonPlafonnee, const BrutDuMoisIJ& brutDuMois) {
   const Date dFin = LireDate(periode.sDateFin);
   const double J =
       Div(periode.dPercu, static_cast<double>(DiffJours(LireDate(periode.sDateDebut), dFin) + 1));
@@ -80,14 +84,13 @@ void EtalePeriode(MoteurCalcul& m, Generation g, const PeriodeIJ& periode,
       Q = iNbJoursCommunsMois(InfosSalaries.sDateDebut, InfosSalaries.sDateFin, sCurseur);
       dDiviseur = Q;
     }
-    const double G = BrutDuMois(m, InfosSalaries, RsSalariesHisto, sCurseur, dCurseur);
+    const double G = brutDuMois(sCurseur, dCurseur);
     const bool bSansSalaire = G == 0 || (g == Generation::kTable && Q <= 0);
     const double W = bSansSalaire ? J : G / dDiviseur;
     const double dN = N;
 
     double R = 0;
-    if (!InfosSalaries.bCalculIJNonPlafonnee) {
-      // Capped: the benefit retained never exceeds the salary of the month.
+    if (!bNonPlafonnee) {
       R = W < J ? dN * W : dN * J;
     } else {
       if (J > W) {
@@ -126,10 +129,13 @@ void EtalePeriode(MoteurCalcul& m, Generation g, const PeriodeIJ& periode,
 
 }  // namespace
 
-RsRef CreationTableIJ() {
-  return NouveauRecordset({"IdSalarie", "NumIJ", "Mois", "SalaireBrut", "SalaireJournalier",
-                           "SalaireJournalierIJ", "NbJourIJ", "IJRetenues", "IJPAS",
-                           "NbJourPresenceCalendaire", "IJDateDebut", "IJDateFin"});
+RsRef CreationTableIJ(ColonnesIJ colonnes) {
+  std::vector<std::string> noms = {"IdSalarie",         "NumIJ",       "Mois",
+                                   "SalaireBrut",       "SalaireJournalier",
+                                   "SalaireJournalierIJ", "NbJourIJ", "IJRetenues"};
+  if (colonnes == ColonnesIJ::kToutes)
+    noms.insert(noms.end(), {"IJPAS", "NbJourPresenceCalendaire", "IJDateDebut", "IJDateFin"});
+  return NouveauRecordset(noms);
 }
 
 PeriodeIJ EmplacementIJ(const VarCalculSalarie& s, int i) {
@@ -145,18 +151,53 @@ PeriodeIJ EmplacementIJ(const VarCalculSalarie& s, int i) {
   }
 }
 
+void CalculIJ_PeriodeEmplacement(VarCalculSalarie& InfosSalaries, const PeriodeIJ& periode,
+                                 SalarieCalculRubrique& Rubrique, bool bNonPlafonnee,
+                                 const BrutDuMoisIJ& brutDuMois) {
+  EtalePeriode(Generation::kEmplacements, periode, InfosSalaries, Rubrique, true, bNonPlafonnee,
+               brutDuMois);
+}
+
 void CalculIJ_Periode(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
                       const RsRef& RsSalariesHisto, const PeriodeIJ& periode,
                       SalarieCalculRubrique& Rubrique) {
-  EtalePeriode(m, Generation::kEmplacements, periode, InfosSalaries, RsSalariesHisto, Rubrique,
-               true);
+  CalculIJ_PeriodeEmplacement(
+      InfosSalaries, periode, Rubrique, InfosSalaries.bCalculIJNonPlafonnee,
+      [&](const std::string& sCurseur, Date dCurseur) {
+        return BrutDuMois(m, InfosSalaries, RsSalariesHisto, sCurseur, dCurseur);
+      });
+}
+
+void IndemnitesEmplacements(VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
+                            ColonnesIJ colonnes,
+                            const std::function<void(Int16 NumIJ)>& calculePeriode) {
+  if (InfosSalaries.dIJPercu1 > 0 || InfosSalaries.dIJPercu2 > 0 || InfosSalaries.dIJPercu3 > 0)
+    Rubrique.rsIJ = CreationTableIJ(colonnes);
+  for (int i = 1; i <= 3; ++i)
+    if (EmplacementIJ(InfosSalaries, i).dPercu > 0) calculePeriode(Int16(i));
+  if (InfosSalaries.sMethodeCalculIJ == "E") {
+    EcritDeduction(Rubrique,
+                   InfosSalaries.dIJPercu1 + InfosSalaries.dIJPercu2 + InfosSalaries.dIJPercu3,
+                   -InfosSalaries.dTotalIJMaladie - InfosSalaries.dTotalIJAT);
+  }
+}
+
+void EcritDeduction(SalarieCalculRubrique& Rubrique, double dBase, double dMontant) {
+  Rubrique.dBase = dBase;
+  Rubrique.dTauxSalarial = 0;
+  Rubrique.dMontantSalarial = dMontant;
+  Rubrique.dTauxPatronal = 0;
+  Rubrique.dMontantPatronal = 0;
 }
 
 void CalculIJ_Periode_NouvelleMethode(MoteurCalcul& m, const PeriodeIJ& periode,
                                       VarCalculSalarie& InfosSalaries, const RsRef& RsSalariesHisto,
                                       SalarieCalculRubrique& Rubrique, bool bIJSubrogees) {
-  EtalePeriode(m, Generation::kTable, periode, InfosSalaries, RsSalariesHisto, Rubrique,
-               bIJSubrogees);
+  EtalePeriode(Generation::kTable, periode, InfosSalaries, Rubrique, bIJSubrogees,
+               InfosSalaries.bCalculIJNonPlafonnee,
+               [&](const std::string& sCurseur, Date dCurseur) {
+                 return BrutDuMois(m, InfosSalaries, RsSalariesHisto, sCurseur, dCurseur);
+               });
 }
 
 }  // namespace orvalis::ij

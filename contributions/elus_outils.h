@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "orvalis/Recordset.h"
+#include "orvalis/numeric.h"
 #include "orvalis/value.h"
 
 namespace orvalis::elus {
@@ -55,6 +57,32 @@ inline bool FinDePeriode(int iMoisPeriode, int iMois) {
     case 12: return iMois == 12;
     default: return true;
   }
+}
+
+// Walks every row of a source; an empty one walks nothing.
+template <typename Travail>
+void PourChaqueLigne(Recordset& rs, Travail&& travail) {
+  if (rs.RecordCount() == 0) return;
+  rs.MoveFirst();
+  while (!rs.Eof()) {
+    travail(rs);
+    rs.MoveNext();
+  }
+}
+
+// Tranche A of an amount X of the period: its share of the ceiling dPlafond when the
+// remuneration of reference dTotal passes it, otherwise the whole amount; not rounded.
+inline double TrancheAProrata(double X, double dPlafond, double dTotal) {
+  return dTotal > dPlafond ? Div(dPlafond * X, dTotal) : X;
+}
+
+// Months of a payment period by sEluPeriodicite read as a text: "2" a quarter, "3" a
+// half-year, "4" a year; any other text is monthly.
+inline int MoisDeLaPeriode(const std::string& sPeriodicite) {
+  if (sPeriodicite == "2") return 3;
+  if (sPeriodicite == "3") return 6;
+  if (sPeriodicite == "4") return 12;
+  return 1;
 }
 
 // The mandate ends in the pay month: sDateFin and the pay month agree on "mm/yyyy".

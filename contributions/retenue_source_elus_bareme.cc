@@ -1,10 +1,12 @@
 // Withholding on elected officials' allowances: the frame of a payment period and the tax
 // scale of seven tranches.
+#include <algorithm>
 #include <string>
 
 #include "contributions/elus_outils.h"
 #include "contributions/retenue_source_elus.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/ModOutilsSpec.h"
 #include "orvalis/fault.h"
 
 namespace orvalis {
@@ -36,13 +38,10 @@ std::optional<std::string> SuffixeConstante(double dCodeBareme) {
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries,
-                                                            double& dFraisMandat,
-                                                            double& dPlafondPeriode,
-                                                            double& dPeriodesAn,
-                                                            double& dMoisPeriode,
-                                                            double& dCoefBareme) {
-  Recordset& rsFixes = Source(gRsConstantesFixes, "gRsConstantesFixes");
+void elus::DonneesMandat(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
+                         double& dFraisMandat, double& dPlafondPeriode, double& dPeriodesAn,
+                         double& dMoisPeriode, double& dCoefBareme) {
+  Recordset& rsFixes = Source(m.gRsConstantesFixes, "gRsConstantesFixes");
   const double dFraisAn = InfosSalaries.dIndiceMajoreM * rsFixes.Field("Point").Nombre() *
                           (rsFixes.Field("EluTxFrais").Nombre() / 100);
   const double dPlafSecu = rsFixes.Field("PlafSecu").Nombre();
@@ -73,6 +72,16 @@ void MethodeCalculG_Nouv::CalculRetenueSource_DonneesMandat(VarCalculSalarie& In
       elus::CoefBareme(dMoisPeriode, Value(InfosSalaries.sEluBaremeImpot).Nombre());
   if (!dCoef) Faute("no periodicity of the tax scale for the code " + InfosSalaries.sEluBaremeImpot);
   dCoefBareme = *dCoef;
+}
+
+void MethodeCalculG_Nouv::CalculRetenueSource_DonneesMandat(VarCalculSalarie& InfosSalaries,
+                                                            double& dFraisMandat,
+                                                            double& dPlafondPeriode,
+                                                            double& dPeriodesAn,
+                                                            double& dMoisPeriode,
+                                                            double& dCoefBareme) {
+  elus::DonneesMandat(*this, InfosSalaries, dFraisMandat, dPlafondPeriode, dPeriodesAn,
+                      dMoisPeriode, dCoefBareme);
 }
 
 void elus::Bareme(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dNetImposable,
@@ -115,6 +124,58 @@ void MethodeCalculG_Nouv::CalculRetenueSource_Bareme(VarCalculSalarie& InfosSala
                                                      double& dTrancheHaute, double& dConstante) {
   elus::Bareme(*this, InfosSalaries, dNetImposable, dPeriodesAn, dTauxTranche, dTrancheBasse,
                dTrancheHaute, dConstante);
+}
+
+void elus::LitTaux(MoteurCalcul& m, MontantsRetenue& t) {
+  t.dTauxTA = m.dRechercheValeurTaux("IRCTRA");
+  t.dTauxTB = m.dRechercheValeurTaux("IRCTRB");
+  t.dTauxCsg = m.dRechercheValeurTaux("URSDCSG");
+  t.dTauxUrssafTot = m.dRechercheValeurTaux("URSRGMAL") + m.dRechercheValeurTaux("URSRGVEU");
+  t.dTauxUrssafPlaf = m.dRechercheValeurTaux("URSRGVIEP");
+}
+
+void elus::FraisPrincipal(MontantsRetenue& t, bool bMandats) {
+  // A single mandate gets the full allowance, even above its net.
+  if (t.dNetPrincipal > 0)
+    t.dFraisTotal = bMandats ? std::min(t.dNetPrincipal, t.dFraisMandat) : t.dFraisMandat;
+  t.dFraisPrincipal = t.dFraisTotal;
+}
+
+void elus::EcritMandat(Recordset& m, double dPlafond, double dCotisations, double dIrcA,
+                       double dIrcB, double dCsg, double dNet) {
+  m.SetField("MontantPlafond", Value(dPlafond));
+  m.SetField("MontantCotisations", Value(dCotisations));
+  m.SetField("MontantCotisationIrcantecTA", Value(dIrcA));
+  m.SetField("MontantCotisationIrcantecTB", Value(dIrcB));
+  m.SetField("MontantCotisationCSG", Value(dCsg));
+  m.SetField("MontantRemunerationNette", Value(dNet));
+  m.SetField("MontantTotalFraisInd", Value(0.0));
+}
+
+double elus::FraisMandat(MontantsRetenue& t, double dNetMandat) {
+  if (dNetMandat <= 0) return 0;
+  const double dFrais = std::min(dNetMandat, t.dFraisMandat);
+  t.dFraisTotal += dFrais;
+  return dFrais;
+}
+
+void elus::Impot(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries, double dPeriodesAn,
+                 MontantsRetenue& t) {
+  // All the mandates together get at most one and a half allowances.
+  t.dFraisRetenus = std::min(t.dFraisTotal, t.dFraisMax);
+  t.dNetBrutImposable = t.dNetMandats + t.dNetPrincipal - t.dFraisRetenus;
+  Bareme(m, InfosSalaries, t.dNetBrutImposable, dPeriodesAn, t.dTauxTranche, t.dTrancheBasse,
+         t.dTrancheHaute, t.dConstante);
+  t.dNetRetenu = dTronqueAuPas(t.dNetBrutImposable, 1, false);
+  t.dImpot = std::max(0.0, t.dTauxTranche * t.dNetRetenu - t.dCoefBareme * t.dConstante);
+}
+
+void elus::EcritLigne(SalarieCalculRubrique& Rubrique, const MontantsRetenue& t) {
+  Rubrique.dBase = t.dNetRetenu;
+  Rubrique.dTauxSalarial = 0;
+  Rubrique.dMontantSalarial = t.dImpot;
+  Rubrique.dTauxPatronal = 0;
+  Rubrique.dMontantPatronal = 0;
 }
 
 }  // namespace orvalis

@@ -2,6 +2,7 @@
 #include "contributions/retenue_source_elus_detail.h"
 
 #include <optional>
+#include <utility>
 
 #include "contributions/elus_outils.h"
 #include "orvalis/ModOutilsSpec.h"
@@ -38,9 +39,34 @@ Montant Par(Montant a, double d) {
 
 Value Cellule(Montant m) { return m ? Value(*m) : Value(); }
 
+// A mandate's row of the historic table: its amounts as its row holds them, per month, and
+// no URSSAF, which the earlier form took on the principal remuneration alone.
+void LigneMandatHistorique(Recordset& rsDetail, Recordset& rsAutres, Int32 lNumeroOrdre,
+                           double M) {
+  rsDetail.SetField("NumeroOrdre", Value(lNumeroOrdre.value()));
+  rsDetail.SetField("Designation", CelluleDesignation(rsAutres.Field("Designation")));
+  for (const auto& [sColonne, sSource] :
+       {std::pair{"RemunerationBrute", "MontantRemunerationBrute"},
+        {"Ircantec_A", "MontantCotisationIrcantecTA"},
+        {"Ircantec_B", "MontantCotisationIrcantecTB"},
+        {"CsG", "MontantCotisationCSG"},
+        {"RemunerationNette", "MontantRemunerationNette"},
+        {"FraisEmploi", "MontantTotalFraisInd"}})
+    rsDetail.SetField(sColonne, Cellule(Par(Lu(rsAutres, sSource), M)));
+  rsDetail.SetField("URSSAF", Value(0.0));
+}
+
 }  // namespace
 
-std::vector<std::string> ColonnesDetailNouvelleMethode() {
+std::vector<std::string> ColonnesDetailNouvelleMethode(FormeDetail forme) {
+  if (forme == FormeDetail::kHistorique) {
+    return {"NumeroOrdre",         "Designation",       "RemunerationBrute", "Ircantec_A",
+            "Ircantec_B",          "URSSAF",            "CsG",               "RemunerationNette",
+            "FraisEmploi",         "NetImposable",      "TotalFrais",        "FraisEmploiMax",
+            "FraisEmploiRetenue",  "NetImposableRetenue", "TrancheImposition",
+            "TrancheImposition2",  "TauxImposition",    "ConstanteAbattement",
+            "RetenueALaSource",    "Impot"};
+  }
   return {"NumeroOrdre",        "Designation",       "RemunerationBrute",
           "Ircantec_A",         "Ircantec_B",        "URSSAF",
           "CsG",                "RemunerationNette", "FraisEmploi",
@@ -53,7 +79,8 @@ std::vector<std::string> ColonnesDetailNouvelleMethode() {
 }
 
 void EcritDetailNouvelleMethode(Recordset& rsDetail, Recordset& rsAutres,
-                                const MontantsRetenue& t) {
+                                const MontantsRetenue& t, FormeDetail forme) {
+  const bool bActuelle = forme == FormeDetail::kActuelle;
   const double M = t.dMoisPeriode;
   const double dPartNetteCsg = 1 - t.dTauxCsg * t.dCoefCsg / 100;
   Int32 lNumeroOrdre = 1;
@@ -68,15 +95,21 @@ void EcritDetailNouvelleMethode(Recordset& rsDetail, Recordset& rsAutres,
   rsDetail.SetField("CsG", Value(t.dCsg / M));
   rsDetail.SetField("RemunerationNette", Value(t.dNetPrincipal / M));
   rsDetail.SetField("FraisEmploi", Value(t.dFraisPrincipal / M));
-  rsDetail.SetField("CotiPartRetrComplNet", Value(t.dCotiPatRetraite * dPartNetteCsg / M));
-  rsDetail.SetField("URSSAF_Tot", Value(t.dUrssafTot / M));
-  rsDetail.SetField("URSSAF_Plaf", Value(t.dUrssafPlaf / M));
-  rsDetail.SetField("CotiPartRetrComplBrut", Value(t.dCotiPatRetraite / M));
+  if (bActuelle) {
+    rsDetail.SetField("CotiPartRetrComplNet", Value(t.dCotiPatRetraite * dPartNetteCsg / M));
+    rsDetail.SetField("URSSAF_Tot", Value(t.dUrssafTot / M));
+    rsDetail.SetField("URSSAF_Plaf", Value(t.dUrssafPlaf / M));
+    rsDetail.SetField("CotiPartRetrComplBrut", Value(t.dCotiPatRetraite / M));
+  }
 
   if (rsAutres.RecordCount() > 0) {
     rsAutres.MoveFirst();
     while (!rsAutres.Eof()) {
-      if (EstFaux(rsAutres.Field("Salaire"))) {
+      if (!bActuelle) {
+        lNumeroOrdre += 1;
+        rsDetail.AddNew();
+        LigneMandatHistorique(rsDetail, rsAutres, lNumeroOrdre, M);
+      } else if (EstFaux(rsAutres.Field("Salaire"))) {
         const Montant dRetSoumise = Lu(rsAutres, "RetComplPatBruteSoumiseCsg");
         const Montant dCotiNet = Par(
             Plus(Fois(dRetSoumise, dPartNetteCsg), Lu(rsAutres, "RetComplPatBrutePasSoumiseCsg")),

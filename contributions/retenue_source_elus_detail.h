@@ -24,13 +24,18 @@ struct MontantsRetenue {
   double dTauxTranche = 0, dTrancheBasse = 0, dTrancheHaute = 0, dConstante = 0, dImpot = 0;
 };
 
+// The detail table of the current engine, or the historic engine's earlier one: no columns
+// of the employer's pension, of the two URSSAF bases nor of the officials' training right,
+// and a row for every row of the mandates, whatever its Salaire.
+enum class FormeDetail { kActuelle, kHistorique };
+
 // The columns of rsRetenueALaSourceNouvelleMethode, in order.
-std::vector<std::string> ColonnesDetailNouvelleMethode();
+std::vector<std::string> ColonnesDetailNouvelleMethode(FormeDetail forme);
 
 // Writes the rows, amounts per month: the principal remuneration, one row for each mandate
 // of rsAutres (from what its row holds now), and the final row of the tax.
 void EcritDetailNouvelleMethode(Recordset& rsDetail, Recordset& rsAutres,
-                                const MontantsRetenue& t);
+                                const MontantsRetenue& t, FormeDetail forme);
 
 }  // namespace orvalis::elus
 

@@ -119,12 +119,8 @@ void elus::RetenueALaSource(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
 
     for (int n = 0; n < kNbCases; ++n) {
       const double X = dBrut[n];
-      double dTrancheA = X;
-      double dTrancheB = 0;
-      if (dTotal > dPlafond) {
-        dTrancheA = Div(dPlafond * X, dTotal);
-        dTrancheB = X - dTrancheA;
-      }
+      const double dTrancheA = elus::TrancheAProrata(X, dPlafond, dTotal);
+      const double dTrancheB = X - dTrancheA;
       dIrcA[n] = dTauxTA * dTrancheA / 100;
       dIrcB[n] = dTauxTB * dTrancheB / 100;
       dCsg[n] = X * dCoefCsg * dTauxCsg / 100;

@@ -3,11 +3,10 @@
 // ceiling period, their URSSAF, CSG, net and employment expenses, then the tax scale. The
 // detail table rsRetenueALaSourceNouvelleMethode shows it all per month: one row for the
 // principal remuneration, one a mandate, and a final row of the tax.
-#include <algorithm>
 #include <string>
 
 #include "contributions/elus_outils.h"
-#include "contributions/retenue_source_elus_detail.h"
+#include "contributions/retenue_source_elus.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
@@ -18,16 +17,7 @@ namespace {
 
 double Nombre(Recordset& rs, const char* sColonne) { return rs.Field(sColonne).Nombre(); }
 
-// Walks every row of a source; an empty one walks nothing.
-template <typename Travail>
-void PourChaqueLigne(Recordset& rs, Travail&& travail) {
-  if (rs.RecordCount() == 0) return;
-  rs.MoveFirst();
-  while (!rs.Eof()) {
-    travail(rs);
-    rs.MoveNext();
-  }
-}
+using elus::PourChaqueLigne;
 
 // Pay days that a ceiling period (dates yyyymmdd) shares with a mandate.
 Int16 JoursCommuns(Recordset& rsPeriode, Recordset& rsMandat) {
@@ -121,138 +111,86 @@ void CalculeMandat(Recordset& m, Recordset& rsIrcantec, Recordset& rsUrssaf, dou
   const double dNet = dBrutMandat - dCotisations;
   t.dNetMandats += dNet;
 
-  m.SetField("MontantPlafond", Value(0.0));
-  m.SetField("MontantCotisations", Value(dCotisations));
-  m.SetField("MontantCotisationIrcantecTA", Value(dIrcA));
-  m.SetField("MontantCotisationIrcantecTB", Value(dIrcB));
-  m.SetField("MontantCotisationCSG", Value(dCsg));
-  m.SetField("MontantRemunerationNette", Value(dNet));
-  m.SetField("MontantTotalFraisInd", Value(0.0));
+  elus::EcritMandat(m, 0.0, dCotisations, dIrcA, dIrcB, dCsg, dNet);
   m.SetField("MontantCotisationUrssafPlaf", Value(dUrssafPlaf));
   m.SetField("MontantCotisationUrssafTot", Value(dUrssafTot));
 
   t.dNetMandats += Nombre(m, "RetComplPatBruteSoumiseCsg") * (1 - t.dTauxCsg * t.dCoefCsg / 100) +
                    Nombre(m, "RetComplPatBrutePasSoumiseCsg");
 
-  if (dNet > 0) {
-    const double dFrais = std::min(dNet, t.dFraisMandat);
-    t.dFraisTotal += dFrais;
-    m.SetField("MontantTotalFraisInd", Value(dFrais));
+  if (dNet > 0) m.SetField("MontantTotalFraisInd", Value(elus::FraisMandat(t, dNet)));
+}
+
+// The principal remuneration over the ceiling periods, with the employer's pension and the
+// URSSAF of an official subject to it, then each mandate (Salaire false).
+void PrincipalEtMandats(MethodeCalculG_Nouv& e, const VarCalculSalarie& InfosSalaries,
+                        elus::MontantsRetenue& t, Recordset& rsAutres) {
+  t.dCoefCsg = 1;
+  const double dBrutPrincipal = t.dBrutPrincipal;
+  // The principal remuneration brought to a full period.
+  double dBrutPlein = 0;
+  if (elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite) == 1) {
+    if (InfosSalaries.iNBJ_Presence_Total != 0)
+      dBrutPlein = dBrutPrincipal * 30 / InfosSalaries.iNBJ_Presence_Total.value();
+  } else if (InfosSalaries.iNBJ_Presence_Total_Periode_Elus != 0) {
+    dBrutPlein = dBrutPrincipal * 30 * t.dMoisPeriode /
+                 InfosSalaries.iNBJ_Presence_Total_Periode_Elus.value();
   }
-}
 
-// Periodicity of payment read as a text: "2", "3", "4"; any other text is monthly.
-bool EstMensuel(const std::string& sPeriodicite) {
-  return sPeriodicite != "2" && sPeriodicite != "3" && sPeriodicite != "4";
-}
+  // The employer's share of the officials' pension funds is taxed as a benefit.
+  double dValSal = 0;
+  e.RechercheValeursListeCumul("FONCAR,CAREL", dValSal, t.dCotiPatRetraite);
 
-int MoisParPeriode(const std::string& sPeriodicite) {
-  if (sPeriodicite == "2") return 3;
-  if (sPeriodicite == "3") return 6;
-  if (sPeriodicite == "4") return 12;
-  return 1;
+  const double D = t.dMoisPeriode * 30;
+  Recordset& rsIrcantec =
+      Source(InfosSalaries.RsPlafondIrcantecPeriodes, "RsPlafondIrcantecPeriodes");
+  const double dTrancheA = TrancheAPrincipal(rsIrcantec, t.dPlafondPeriode, dBrutPlein, D);
+  const double dTrancheB = Arrondi(dBrutPrincipal - dTrancheA, 2);
+  t.dIrcA = t.dTauxTA * dTrancheA / 100;
+  t.dIrcB = t.dTauxTB * dTrancheB / 100;
+
+  if (InfosSalaries.sCodeModele == "ELUMAIRESP" || InfosSalaries.bIndemniteEluCotiseUrssaf) {
+    const double dAssietteTot = Arrondi(e.dRechercheValeurCumul("ASSURSTOT", "S"), 2);
+    const double dAssiettePlaf = e.dRechercheValeurCumul("ASSURSTRA", "S");
+    // The ceiling rate stays rounded for the mandates below.
+    t.dTauxUrssafPlaf = Arrondi(t.dTauxUrssafPlaf, 2);
+    t.dUrssafTot = dAssietteTot * t.dTauxUrssafTot / 100;
+    t.dUrssafPlaf = t.dTauxUrssafPlaf * dAssiettePlaf / 100;
+    t.dUrssaf = t.dUrssafTot + t.dUrssafPlaf;
+  }
+  t.dCsg = (t.dCotiPatRetraite + dBrutPrincipal) * t.dCoefCsg * t.dTauxCsg / 100;
+  t.dNetPrincipal =
+      t.dCotiPatRetraite + dBrutPrincipal - (t.dIrcA + t.dIrcB + t.dCsg + t.dUrssaf);
+
+  elus::FraisPrincipal(t, rsAutres.RecordCount() > 0);
+
+  Recordset& rsUrssaf = Source(InfosSalaries.RsPlafondUrssafPeriodes, "RsPlafondUrssafPeriodes");
+  PourChaqueLigne(rsAutres, [&](Recordset& m) {
+    if (elus::EstFaux(m.Field("Salaire"))) CalculeMandat(m, rsIrcantec, rsUrssaf, D, t);
+  });
 }
 
 }  // namespace
 
 RsRef MethodeCalculG_Nouv::EnregistreDetailRetenueSource_NouvelleMethode() {
-  return NouveauRecordset(elus::ColonnesDetailNouvelleMethode());
+  return NouveauRecordset(elus::ColonnesDetailNouvelleMethode(elus::FormeDetail::kActuelle));
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Retenue_a_la_source_NouvelleMethode(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique,
     const RsRef& /*RsVariablesSalaries*/) {
-  elus::MontantsRetenue t;  // every amount at 0, one month a period
-  Rubrique.rsRetenueALaSourceNouvelleMethode = EnregistreDetailRetenueSource_NouvelleMethode();
-  Recordset& rsDetail = *Rubrique.rsRetenueALaSourceNouvelleMethode;
-  Recordset& rsAutres = Source(InfosSalaries.rsAutresIndemnites, "rsAutresIndemnites");
-
-  // Calculated when the official has opted for the withholding (iEluChoixImpot neither 1
-  // nor 2), at the end of a payment period or in the month the mandate ends.
-  const bool bOpte = InfosSalaries.iEluChoixImpot != 1 && InfosSalaries.iEluChoixImpot != 2;
-  auto FinPeriode = [&] {
-    return elus::FinDePeriode(MoisParPeriode(InfosSalaries.sEluPeriodicite),
+  // The period ends with its last month, or in the month the mandate ends.
+  const auto FinPeriode = [&] {
+    return elus::FinDePeriode(elus::MoisDeLaPeriode(InfosSalaries.sEluPeriodicite),
                               Mois(LireDate(gPeriodeEncours))) ||
            elus::DernierMoisMandat(InfosSalaries.sDateFin, gPeriodeEncours);
   };
-  if (bOpte && FinPeriode()) {
-    double dPeriodesAn = 0;
-    CalculRetenueSource_DonneesMandat(InfosSalaries, t.dFraisMandat, t.dPlafondPeriode,
-                                      dPeriodesAn, t.dMoisPeriode, t.dCoefBareme);
-    t.dFraisMax = t.dFraisMandat * 1.5;
-    t.dTauxTA = dRechercheValeurTaux("IRCTRA");
-    t.dTauxTB = dRechercheValeurTaux("IRCTRB");
-    t.dTauxCsg = dRechercheValeurTaux("URSDCSG");
-    t.dTauxUrssafTot = dRechercheValeurTaux("URSRGMAL") + dRechercheValeurTaux("URSRGVEU");
-    t.dTauxUrssafPlaf = dRechercheValeurTaux("URSRGVIEP");
-    t.dCoefCsg = 1;
-
-    const double dBrutPrincipal =
-        dRechercheValeurCumul("BRUT", "S") - dRechercheValeurCumul("BASERAPPEL", "S");
-    t.dBrutPrincipal = dBrutPrincipal;
-    // The principal remuneration brought to a full period.
-    double dBrutPlein = 0;
-    if (EstMensuel(InfosSalaries.sEluPeriodicite)) {
-      if (InfosSalaries.iNBJ_Presence_Total != 0)
-        dBrutPlein = dBrutPrincipal * 30 / InfosSalaries.iNBJ_Presence_Total.value();
-    } else if (InfosSalaries.iNBJ_Presence_Total_Periode_Elus != 0) {
-      dBrutPlein = dBrutPrincipal * 30 * t.dMoisPeriode /
-                   InfosSalaries.iNBJ_Presence_Total_Periode_Elus.value();
-    }
-
-    // The employer's share of the officials' pension funds is taxed as a benefit.
-    double dValSal = 0;
-    RechercheValeursListeCumul("FONCAR,CAREL", dValSal, t.dCotiPatRetraite);
-
-    const double D = t.dMoisPeriode * 30;
-    Recordset& rsIrcantec =
-        Source(InfosSalaries.RsPlafondIrcantecPeriodes, "RsPlafondIrcantecPeriodes");
-    const double dTrancheA = TrancheAPrincipal(rsIrcantec, t.dPlafondPeriode, dBrutPlein, D);
-    const double dTrancheB = Arrondi(dBrutPrincipal - dTrancheA, 2);
-    t.dIrcA = t.dTauxTA * dTrancheA / 100;
-    t.dIrcB = t.dTauxTB * dTrancheB / 100;
-
-    if (InfosSalaries.sCodeModele == "ELUMAIRESP" || InfosSalaries.bIndemniteEluCotiseUrssaf) {
-      const double dAssietteTot = Arrondi(dRechercheValeurCumul("ASSURSTOT", "S"), 2);
-      const double dAssiettePlaf = dRechercheValeurCumul("ASSURSTRA", "S");
-      // The ceiling rate stays rounded for the mandates below.
-      t.dTauxUrssafPlaf = Arrondi(t.dTauxUrssafPlaf, 2);
-      t.dUrssafTot = dAssietteTot * t.dTauxUrssafTot / 100;
-      t.dUrssafPlaf = t.dTauxUrssafPlaf * dAssiettePlaf / 100;
-      t.dUrssaf = t.dUrssafTot + t.dUrssafPlaf;
-    }
-    t.dCsg = (t.dCotiPatRetraite + dBrutPrincipal) * t.dCoefCsg * t.dTauxCsg / 100;
-    t.dNetPrincipal =
-        t.dCotiPatRetraite + dBrutPrincipal - (t.dIrcA + t.dIrcB + t.dCsg + t.dUrssaf);
-
-    // A single mandate gets the full allowance, even above its net.
-    if (t.dNetPrincipal > 0) {
-      t.dFraisTotal = rsAutres.RecordCount() > 0 ? std::min(t.dNetPrincipal, t.dFraisMandat)
-                                                 : t.dFraisMandat;
-    }
-    t.dFraisPrincipal = t.dFraisTotal;
-
-    Recordset& rsUrssaf = Source(InfosSalaries.RsPlafondUrssafPeriodes, "RsPlafondUrssafPeriodes");
-    PourChaqueLigne(rsAutres, [&](Recordset& m) {
-      if (elus::EstFaux(m.Field("Salaire"))) CalculeMandat(m, rsIrcantec, rsUrssaf, D, t);
-    });
-
-    // All the mandates together get at most one and a half allowances.
-    t.dFraisRetenus = std::min(t.dFraisTotal, t.dFraisMax);
-    t.dNetBrutImposable = t.dNetMandats + t.dNetPrincipal - t.dFraisRetenus;
-    CalculRetenueSource_Bareme(InfosSalaries, t.dNetBrutImposable, dPeriodesAn, t.dTauxTranche,
-                               t.dTrancheBasse, t.dTrancheHaute, t.dConstante);
-    t.dNetRetenu = dTronqueAuPas(t.dNetBrutImposable, 1, false);
-    t.dImpot = std::max(0.0, t.dTauxTranche * t.dNetRetenu - t.dCoefBareme * t.dConstante);
-  }
-
-  elus::EcritDetailNouvelleMethode(rsDetail, rsAutres, t);
-
-  Rubrique.dBase = t.dNetRetenu;
-  Rubrique.dTauxSalarial = 0;
-  Rubrique.dMontantSalarial = t.dImpot;
-  Rubrique.dTauxPatronal = 0;
-  Rubrique.dMontantPatronal = 0;
+  elus::RetenueNouvelleMethode(
+      *this, InfosSalaries, Rubrique, EnregistreDetailRetenueSource_NouvelleMethode(),
+      elus::FormeDetail::kActuelle, FinPeriode,
+      [&](elus::MontantsRetenue& t, Recordset& rsAutres) {
+        PrincipalEtMandats(*this, InfosSalaries, t, rsAutres);
+      });
 }
 
 }  // namespace orvalis

@@ -151,5 +151,35 @@ TEST_F(ResolveursHistoriquesTest, NameOfTheCurrentEngineOnlyLeavesTheLine) {
   }
 }
 
+// "SALAIRE IMPOSABLE": "BRUT" 2500 less "TOTDEDUCT" 300 = 2200, less "ASSREDHS" 100 = 2100
+// when the reduction on overtime applies; employee side only (the employer's parts 9000 are
+// not read). The same in both engines; the abated base, with the assessment of the tax at
+// source, is the current engine's alone.
+TEST_F(ResolveursHistoriquesTest, TaxableSalaryWithoutTheAssessmentBase) {
+  Cumul("BRUT", 2500.0, 9000.0);
+  Cumul("TOTDEDUCT", 300.0, 9000.0);
+  Cumul("ASSREDHS", 100.0, 9000.0);
+  Cumul("NETIMPOS", 1500.13);
+  r.sValeurBase = "SALAIRE IMPOSABLE";
+  EXPECT_DOUBLE_EQ(n.RechercheValeurBase(s, vars, r), 2200.0);
+  EXPECT_DOUBLE_EQ(h.RechercheValeurBase(s, vars, r), 2200.0);
+  s.bCalculReductionSurHS = true;
+  EXPECT_DOUBLE_EQ(n.RechercheValeurBase(s, vars, r), 2100.0);
+  EXPECT_DOUBLE_EQ(h.RechercheValeurBase(s, vars, r), 2100.0);
+  r.sValeurBase = "SALAIRE IMPOSABLE ABATTU";
+  EXPECT_DOUBLE_EQ(h.RechercheValeurBase(s, vars, r), 0.0);
+}
+
+// Deductions above the gross give a negative base, kept as it is: 100 - 300 - 100 = -300.
+TEST_F(ResolveursHistoriquesTest, TaxableSalaryMayBeNegative) {
+  Cumul("BRUT", 100.0);
+  Cumul("TOTDEDUCT", 300.0);
+  Cumul("ASSREDHS", 100.0);
+  s.bCalculReductionSurHS = true;
+  r.sValeurBase = "SALAIRE IMPOSABLE";
+  EXPECT_DOUBLE_EQ(h.RechercheValeurBase(s, vars, r), -300.0);
+  EXPECT_DOUBLE_EQ(n.RechercheValeurBase(s, vars, r), -300.0);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test

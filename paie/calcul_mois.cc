@@ -1,7 +1,11 @@
 #include "paie/calcul_mois.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <exception>
+#include <mutex>
+#include <thread>
 #include <unordered_map>
 
 #include "orvalis/ModOutilsSpec.h"
@@ -90,7 +94,70 @@ double Montant(const LigneBulletin& l, const std::string& quoi) {
   return l.dMontantSalarial;
 }
 
+// A worker's own copy of a reference source: the lookups move a source's filter and
+// position, so engines on different threads never read the same one.
+RsRef CopieSource(const RsRef& rs) {
+  if (!rs) return rs;
+  const std::vector<std::string> colonnes = rs->Columns();
+  RsRef copie = NouveauRecordset(colonnes);
+  for (const auto& ligne : rs->Rows()) {
+    copie->AddNew();
+    for (std::size_t i = 0; i < colonnes.size(); ++i) copie->SetField(colonnes[i], ligne[i]);
+  }
+  copie->ClearFilter();
+  return copie;
+}
+
+// The reference sources of the month, copied for one worker; the rest of the month (plan,
+// totals, employees) is only read, and each employee goes to one worker alone.
+DonneesMois SourcesDuTravailleur(const DonneesMois& d) {
+  DonneesMois w;
+  w.mois = d.mois;
+  w.constantesFixes = CopieSource(d.constantesFixes);
+  w.constantesFixesHistorique = CopieSource(d.constantesFixesHistorique);
+  w.constantes = CopieSource(d.constantes);
+  w.constantesHistorique = CopieSource(d.constantesHistorique);
+  w.taux = CopieSource(d.taux);
+  w.baremePAS = CopieSource(d.baremePAS);
+  return w;
+}
+
+// The payslips of the month on several threads: each worker takes the next employee not
+// yet taken and writes the payslip at the employee's place.
+void CalculeEnParallele(const DonneesMois& d, std::vector<Bulletin>& bulletins,
+                        const Progression& progression, unsigned travailleurs) {
+  const std::size_t total = d.salaries.size();
+  std::atomic<std::size_t> suivant{0};
+  std::mutex verrou;  // the progression and the first error
+  std::size_t faits = 0;
+  std::exception_ptr erreur;
+  auto travail = [&] {
+    try {
+      MethodeCalculG_Nouv m;
+      PrepareMoteur(m, SourcesDuTravailleur(d));
+      for (std::size_t i; (i = suivant.fetch_add(1)) < total;) {
+        bulletins[i] = CalculeSalarie(m, d, d.salaries[i]);
+        if (!progression) continue;
+        std::lock_guard<std::mutex> garde(verrou);
+        progression(++faits, total);
+      }
+    } catch (...) {
+      // Nothing of the month is written then: the others stop at their next employee.
+      suivant.store(total);
+      std::lock_guard<std::mutex> garde(verrou);
+      if (!erreur) erreur = std::current_exception();
+    }
+  };
+  {
+    std::vector<std::jthread> fils;
+    for (unsigned t = 0; t < travailleurs; ++t) fils.emplace_back(travail);
+  }
+  if (erreur) std::rethrow_exception(erreur);
+}
+
 }  // namespace
+
+unsigned CoeursDisponibles() { return std::max(1u, std::thread::hardware_concurrency()); }
 
 void PrepareMoteur(MethodeCalculG_Nouv& m, const DonneesMois& d) {
   m.gPeriodeEncours = PeriodeEncours(d.mois);
@@ -216,19 +283,28 @@ Totaux TotauxBulletin(const Bulletin& b) {
   return t;
 }
 
-ResultatMois CalculeMois(const DonneesMois& d, const Progression& progression) {
+ResultatMois CalculeMois(const DonneesMois& d, const Progression& progression,
+                         unsigned travailleurs) {
   const auto debut = std::chrono::steady_clock::now();
   ResultatMois res;
   res.mois = d.mois;
   res.employeur = d.employeur;
-  MethodeCalculG_Nouv m;
-  PrepareMoteur(m, d);
-  res.bulletins.reserve(d.salaries.size());
-  for (std::size_t i = 0; i < d.salaries.size(); ++i) {
-    res.bulletins.push_back(CalculeSalarie(m, d, d.salaries[i]));
-    res.lignes += static_cast<long>(res.bulletins.back().lignes.size());
-    res.echecs += res.bulletins.back().echecs;
-    if (progression) progression(i + 1, d.salaries.size());
+  travailleurs = static_cast<unsigned>(std::min<std::size_t>(travailleurs, d.salaries.size()));
+  if (travailleurs > 1) {
+    res.bulletins.resize(d.salaries.size());
+    CalculeEnParallele(d, res.bulletins, progression, travailleurs);
+  } else {
+    MethodeCalculG_Nouv m;
+    PrepareMoteur(m, d);
+    res.bulletins.reserve(d.salaries.size());
+    for (std::size_t i = 0; i < d.salaries.size(); ++i) {
+      res.bulletins.push_back(CalculeSalarie(m, d, d.salaries[i]));
+      if (progression) progression(i + 1, d.salaries.size());
+    }
+  }
+  for (const auto& b : res.bulletins) {
+    res.lignes += static_cast<long>(b.lignes.size());
+    res.echecs += b.echecs;
   }
   res.secondes = std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
   return res;

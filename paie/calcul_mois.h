@@ -21,8 +21,14 @@ void PrepareMoteur(MethodeCalculG_Nouv& m, const DonneesMois& d);
 // entry gives false is kept with ok = false and feeds no total; the run goes on.
 Bulletin CalculeSalarie(MethodeCalculG_Nouv& m, const DonneesMois& d, const Salarie& s);
 
-// The whole month, in the order of the employees.
-ResultatMois CalculeMois(const DonneesMois& d, const Progression& progression = {});
+// The whole month, in the order of the employees, on `travailleurs` threads (one engine
+// each): the same payslips in the same order whatever their number. With several threads,
+// `progression` is called from the workers, one call at a time.
+ResultatMois CalculeMois(const DonneesMois& d, const Progression& progression = {},
+                         unsigned travailleurs = 1);
+
+// The number of cores, at least 1: the pay run's threads by default.
+unsigned CoeursDisponibles();
 
 // The payslip's totals from its lines (and the taxable net from the total "NETIMPOS").
 Totaux TotauxBulletin(const Bulletin& b);

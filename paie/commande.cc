@@ -126,6 +126,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
     c->add_option("--store", store, aideStore);
     c->add_option(noms, positionnels, std::string("the STORE (unless --store is given)") + aide);
   };
+  unsigned travailleurs = CoeursDisponibles();
 
   auto* demo = app.add_subcommand("demo", "create the sample commune in a new store");
   ajouteStore(demo, "STORE", "");
@@ -136,6 +137,10 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
   ajouteStore(paie, "STORE_MONTH", ", then the MONTH, as 2024-03");
   paie->add_flag("--replace", remplacer, "compute a month already written again, replacing it");
   paie->add_option("--payslips", dossier, "also write the month's payslips into this folder");
+  paie->add_option("--jobs", travailleurs,
+                   "threads, one engine each (default: the number of cores); on PostgreSQL, the "
+                   "threads of this worker for each batch")
+      ->check(CLI::Range(1u, 1024u));
   paie->add_flag("--worker", travail.rejoindre,
                  "PostgreSQL: join the month if other workers compute it (or start it)");
   paie->add_option("--batch", travail.tailleLot,
@@ -210,6 +215,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
         travail.remplacer = remplacer;
         travail.progression = std::ref(barre);
         travail.journal = &erreurs;
+        travail.fils = travailleurs;
         PaiePostgres(store, cle, travail, sortie);
       } else {
         auto m = OuvreMagasinSqlite(store);
@@ -217,7 +223,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
           throw ErreurMagasin(fmt::format("month {} is already computed (--replace computes it again)",
                                           AfficheMois(cle)));
         const DonneesMois d = m->ChargeMois(cle);
-        m->EcritMois(CalculeMois(d, std::ref(barre)), remplacer);
+        m->EcritMois(CalculeMois(d, std::ref(barre), travailleurs), remplacer);
         Resume(SyntheseDuMois(m->Sql(), cle, kMontres), sortie);
       }
       if (!dossier.empty()) {

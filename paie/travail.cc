@@ -48,8 +48,10 @@ struct Lot {
   long long numero = 0, premier = 0, dernier = 0;
 };
 
-// Starts the month (its row in `calculs`, unpublished, and its batches) or joins it.
-void EntreDansLeMois(Connexion& base, const DonneesMois& d, const OptionsTravail& o) {
+// Starts the month (its row in `calculs`, unpublished, and its batches of `salaries`) or
+// joins it.
+void EntreDansLeMois(Connexion& base, const std::string& cle, const std::vector<Salarie>& salaries,
+                     const OptionsTravail& o) {
   EnTransaction(base, [&] {
     // Two runs starting the same month at once: the second waits here, then finds it begun.
     base.Execute("LOCK TABLE calculs IN SHARE ROW EXCLUSIVE MODE");
@@ -58,9 +60,9 @@ void EntreDansLeMois(Connexion& base, const DonneesMois& d, const OptionsTravail
         "(SELECT count(*) FROM lots l WHERE l.mois = c.mois), "
         "(SELECT count(*) FROM lots l WHERE l.mois = c.mois AND l.fait = 1) "
         "FROM calculs c WHERE c.mois = ?");
-    r.Lie(1, d.mois);
+    r.Lie(1, cle);
     if (r.Pas()) {
-      const std::string mois = AfficheMois(d.mois);
+      const std::string mois = AfficheMois(cle);
       if (r.Entier(0) == 0) {
         if (!o.rejoindre)
           throw ErreurMagasin(fmt::format(
@@ -76,20 +78,20 @@ void EntreDansLeMois(Connexion& base, const DonneesMois& d, const OptionsTravail
       if (!o.remplacer)
         throw ErreurMagasin(fmt::format("month {} is already computed (--replace computes it again)", mois));
       Requete del = base.Prepare("DELETE FROM calculs WHERE mois = ?");
-      del.Lie(1, d.mois).Execute();
+      del.Lie(1, cle).Execute();
     }
     Requete c = base.Prepare(
         "INSERT INTO calculs (mois, date_calcul, version, salaries, lignes, echecs, secondes, publie) "
         "VALUES (?, ?, ?, ?, 0, 0, 0, 0)");
-    c.Lie(1, d.mois).Lie(2, DateUtc()).Lie(3, std::string(tools::Version()));
-    c.Lie(4, static_cast<long long>(d.salaries.size())).Execute();
+    c.Lie(1, cle).Lie(2, DateUtc()).Lie(3, std::string(tools::Version()));
+    c.Lie(4, static_cast<long long>(salaries.size())).Execute();
     Requete l = base.PrepareInsertion("lots", {"mois", "lot", "premier", "dernier", "salaries"});
     const std::size_t taille = static_cast<std::size_t>(std::max(1, o.tailleLot));
-    for (std::size_t i = 0, n = 1; i < d.salaries.size(); i += taille, ++n) {
-      const std::size_t fin = std::min(d.salaries.size(), i + taille);
-      l.Lie(1, d.mois).Lie(2, static_cast<long long>(n));
-      l.Lie(3, static_cast<long long>(d.salaries[i].lIdSalarie));
-      l.Lie(4, static_cast<long long>(d.salaries[fin - 1].lIdSalarie));
+    for (std::size_t i = 0, n = 1; i < salaries.size(); i += taille, ++n) {
+      const std::size_t fin = std::min(salaries.size(), i + taille);
+      l.Lie(1, cle).Lie(2, static_cast<long long>(n));
+      l.Lie(3, static_cast<long long>(salaries[i].lIdSalarie));
+      l.Lie(4, static_cast<long long>(salaries[fin - 1].lIdSalarie));
       l.Lie(5, static_cast<long long>(fin - i)).Execute();
     }
     l.Termine();
@@ -130,9 +132,10 @@ Etat Publie(Connexion& base, const std::string& mois) {
 
 class Travailleur {
  public:
-  Travailleur(const std::string& adresse, const DonneesMois& d, const OptionsTravail& o)
-      : adresse_(adresse), nom_(NomTravailleur()), d_(d), o_(o), pause_(PauseParLot()) {
-    PrepareMoteur(moteur_, d_);
+  // The month's employees are kept aside; a batch puts its own into `d_` to be computed.
+  Travailleur(const std::string& adresse, DonneesMois d, const OptionsTravail& o)
+      : adresse_(adresse), nom_(NomTravailleur()), d_(std::move(d)), o_(o), pause_(PauseParLot()) {
+    tous_.swap(d_.salaries);
   }
 
   BilanTravail Travaille() {
@@ -141,7 +144,7 @@ class Travailleur {
     for (;;) {
       try {
         if (!entre) {
-          EntreDansLeMois(*base_, d_, o_);
+          EntreDansLeMois(*base_, d_.mois, tous_, o_);
           entre = true;
         }
         if (PrendUnLot()) continue;
@@ -214,15 +217,15 @@ class Travailleur {
 
   void EcritLot(const Lot& lot) {
     const auto debut = Horloge::now();
-    auto premier = std::lower_bound(d_.salaries.begin(), d_.salaries.end(), lot.premier,
+    auto premier = std::lower_bound(tous_.begin(), tous_.end(), lot.premier,
                                     [](const Salarie& s, long long id) { return s.lIdSalarie < id; });
-    std::vector<Bulletin> bulletins;
-    long lignes = 0, echecs = 0;
-    for (auto s = premier; s != d_.salaries.end() && s->lIdSalarie <= lot.dernier; ++s) {
-      bulletins.push_back(CalculeSalarie(moteur_, d_, *s));
-      lignes += static_cast<long>(bulletins.back().lignes.size());
-      echecs += bulletins.back().echecs;
-    }
+    auto fin = premier;
+    while (fin != tous_.end() && fin->lIdSalarie <= lot.dernier) ++fin;
+    d_.salaries.assign(premier, fin);
+    const ResultatMois r = CalculeMois(d_, {}, o_.fils);
+    d_.salaries.clear();
+    const long lignes = r.lignes, echecs = r.echecs;
+    const std::vector<Bulletin>& bulletins = r.bulletins;
     InsereBulletins(*base_, d_.mois, bulletins);
     Requete u = base_->Prepare(
         "UPDATE lots SET fait = 1, travailleur = ?, fin = ?, secondes = ?, lignes = ?, echecs = ? "
@@ -239,14 +242,14 @@ class Travailleur {
     if (!o_.progression) return;
     Requete r = base_->Prepare("SELECT coalesce(sum(salaries), 0) FROM lots WHERE mois = ? AND fait = 1");
     r.Lie(1, d_.mois);
-    if (r.Pas()) o_.progression(static_cast<std::size_t>(r.Entier(0)), d_.salaries.size());
+    if (r.Pas()) o_.progression(static_cast<std::size_t>(r.Entier(0)), tous_.size());
   }
 
   std::string adresse_, nom_;
-  const DonneesMois& d_;
+  DonneesMois d_;
+  std::vector<Salarie> tous_;
   const OptionsTravail& o_;
   std::chrono::milliseconds pause_;
-  MethodeCalculG_Nouv moteur_;
   std::unique_ptr<BasePg> base_;
   BilanTravail bilan_;
 };
@@ -263,7 +266,7 @@ BilanTravail TravailleMois(const std::string& adresse, const std::string& texteM
     auto magasin = OuvreMagasinPostgres(adresse, "orvalis paie " + mois);
     d = magasin->ChargeMois(mois);
   }
-  Travailleur t(adresse, d, o);
+  Travailleur t(adresse, std::move(d), o);
   return t.Travaille();
 }
 

@@ -19,6 +19,7 @@ struct OptionsTravail {
   bool remplacer = false;  // a published month is computed again
   bool rejoindre = false;  // join the month when others compute it (--worker)
   int tailleLot = 200;     // employees a batch, when this worker starts the month
+  unsigned fils = 1;       // threads computing each batch (CalculeMois)
   Progression progression;  // employees of the month written, by every worker
   std::ostream* journal = nullptr;  // a line for each batch lost with the connection
 };

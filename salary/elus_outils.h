@@ -66,7 +66,7 @@ inline std::string CleMoisAnterieur(const std::string& sPeriode, int iMois) {
 
 // The year's treatment of dIndiceMajoreM on "Point" (a null reading 0) into
 // dSalarie_AnnuelPlein; gives its full month.
-inline double PleinSurIndiceDuMois(MethodeCalculG_Nouv& m, VarCalculSalarie& s) {
+inline double PleinSurIndiceDuMois(MoteurCalcul& m, VarCalculSalarie& s) {
   s.dSalarie_AnnuelPlein = Arrondi(s.dIndiceMajoreM * m.ConstanteFixe("Point"), 2);
   return MensuelPlein(s.dSalarie_AnnuelPlein);
 }

@@ -4,9 +4,12 @@
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
 #include "orvalis/value.h"
+#include "salary/elus_lignes.h"
 #include "salary/elus_outils.h"
 
 namespace orvalis {
+
+namespace elus {
 
 namespace {
 
@@ -44,10 +47,10 @@ ChampsTraitement Champs(VarCalculSalarie& s, bool bAncien) {
 }
 
 // The month itself on one side of the rate R: full month, real month, days present.
-void MoisDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bAncien, double R) {
+void MoisDuTaux(MoteurElus& e, VarCalculSalarie& s, bool bAncien, double R) {
   const ChampsTraitement t = Champs(s, bAncien);
-  t.dPlein = elus::PleinSurIndiceDuMois(m, s);
-  m.CalculCoefficientUtilisationTauxElus(s, m.gPeriodeEncours);
+  t.dPlein = PleinSurIndiceDuMois(e.m, s);
+  e.CoefficientsDuTaux(s, e.m.gPeriodeEncours);
   const Cote c = CoteDuTaux(s, bAncien);
   t.dReel = c.dCoefficient * t.dPlein * R;
   if (30 - c.iJoursAutre != 0) t.dMensuel = SurJoursPresents(t.dReel, c);
@@ -56,10 +59,10 @@ void MoisDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bAncien, doubl
 // The earlier months of the period, each at its own point and index. The new rate runs
 // from the month of the change; the former rate (chosen: the mirror) up to it, from the
 // month of entry. The month of the change adds its own side's share.
-double MoisAnterieursDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bAncien,
-                            double dTaux, int K) {
+double MoisAnterieursDuTaux(MoteurElus& e, VarCalculSalarie& s, bool bAncien, double dTaux,
+                            int K) {
   if (K <= 0) return 0;
-  const Date dPeriode = LireDate(m.gPeriodeEncours);
+  const Date dPeriode = LireDate(e.m.gPeriodeEncours);
   const Date dChangement = PremierJourDuMois(LireDate(s.sDateChangementTauxElus));
   double dTotal = 0;
   for (int i = 1; i <= K; ++i) {
@@ -69,12 +72,11 @@ double MoisAnterieursDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bA
       if (D < PremierJourDuMois(LireDate(s.sDateDebut))) break;
       if (D > dChangement) continue;
     }
-    double X = 0;
-    m.dRechercheIndMajEluPeriode(s, m.gPeriodeEncours, std::to_string(i), X, dTaux);
+    double X = e.MoisAnterieur(s, i, dTaux);
     if (D == dChangement) {
       const std::string sD = TexteDate(D);
-      m.CalculCoefficientUtilisationTauxElus(s, sD);
-      m.CalculNombreJourPresence(s, sD);
+      e.CoefficientsDuTaux(s, sD);
+      e.JoursDePresence(s, sD);
       const Cote c = CoteDuTaux(s, bAncien);
       X = SurJoursPresents(X * c.dCoefficient, c);
     }
@@ -83,35 +85,86 @@ double MoisAnterieursDuTaux(MethodeCalculG_Nouv& m, VarCalculSalarie& s, bool bA
   return dTotal;
 }
 
+}  // namespace
+
 // A line of a paid period on one side of the rate.
-void TraitementPeriode(MethodeCalculG_Nouv& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                       bool bAncien) {
+void TraitementIndiciaireElus(MoteurElus& e, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                              bool bAncien) {
+  const std::string& sPeriode = e.m.gPeriodeEncours;
   // The former rate's line is paid on the period's last month alone.
-  if (!elus::MoisPaye(s, m.gPeriodeEncours, !bAncien)) return;
-  s.dIndiceMajoreM = m.dRechercheValeur_Constantes(m.gRsConstantes, "INDMAJELU");
-  const double R = bAncien ? elus::CoefficientTaux(s.dTauxMairePrecedent, s.dTauxEPCIPrecedent)
+  if (!MoisPaye(s, sPeriode, !bAncien)) return;
+  s.dIndiceMajoreM = e.IndiceDeLaPeriode();
+  const double R = bAncien ? CoefficientTaux(s.dTauxMairePrecedent, s.dTauxEPCIPrecedent)
                            : s.dCoefficient_Traitement;
-  MoisDuTaux(m, s, bAncien, R);
+  MoisDuTaux(e, s, bAncien, R);
   const ChampsTraitement t = Champs(s, bAncien);
 
   // The host gave the period's amount itself.
   const double dDonne = bAncien ? s.dTraitementEluNonMensuelPrecedent : s.dTraitementEluNonMensuel;
   if (dDonne != 0) {
-    elus::Ligne(r, t.dPlein, s.dIndiceMajoreM, dDonne);
+    Ligne(r, t.dPlein, s.dIndiceMajoreM, dDonne);
     return;
   }
 
-  const int K = elus::MoisAnterieurs(s, m.gPeriodeEncours, !bAncien);
-  t.dMensuel = t.dMensuel + MoisAnterieursDuTaux(m, s, bAncien, bAncien ? R : -1, K);
-  elus::Ligne(r, t.dPlein, s.dIndiceMajoreM, t.dMensuel);
+  const int K = MoisAnterieurs(s, sPeriode, !bAncien);
+  t.dMensuel = t.dMensuel + MoisAnterieursDuTaux(e, s, bAncien, bAncien ? R : -1, K);
+  Ligne(r, t.dPlein, s.dIndiceMajoreM, t.dMensuel);
 
   if (K > 0) {
     // Back to this month's shares and days for the lines that follow (chosen: the shares
     // too, which a month of change in the loop has left on that month).
-    m.CalculCoefficientUtilisationTauxElus(s, m.gPeriodeEncours);
-    m.CalculNombreJourPresence(s, "");
+    e.CoefficientsDuTaux(s, sPeriode);
+    e.JoursDePresence(s, "");
   }
 }
+
+void TraitementIndiciaireElusMois(MoteurElus& e, VarCalculSalarie& s, SalarieCalculRubrique& r) {
+  s.dIndiceMajoreM = e.IndiceDuMois();
+  MoisDuTaux(e, s, false, s.dCoefficient_Traitement);
+  Ligne(r, s.dSalarie_MensuelPleinN, s.dIndiceMajoreM, s.dSalarie_MensuelN);
+}
+
+void TraitementIndiciaireElusPrecedentMois(MoteurElus& e, VarCalculSalarie& s,
+                                           SalarieCalculRubrique& r) {
+  const double R = CoefficientTaux(s.dTauxMairePrecedent, s.dTauxEPCIPrecedent);
+  s.dIndiceMajoreM = e.IndiceDeLaPeriode();
+  s.dSalarie_MensuelPleinA = PleinSurIndiceDuMois(e.m, s);
+  e.CoefficientsDuTaux(s, e.m.gPeriodeEncours);
+  s.dSalarie_MensuelReelA = s.dCoefficient_IAncien * s.dSalarie_MensuelPleinA * R;
+  s.dSalarie_MensuelA = s.dSalarie_MensuelReelA;
+  Ligne(r, s.dSalarie_MensuelPleinA, s.dIndiceMajoreM, s.dSalarie_MensuelA);
+}
+
+}  // namespace elus
+
+namespace {
+
+// The current engine: the index of the period is the constant "INDMAJELU", that of the
+// month alone follows the date.
+class ElusCourant : public elus::MoteurElus {
+ public:
+  explicit ElusCourant(MethodeCalculG_Nouv& moteur) : MoteurElus(moteur), n(moteur) {}
+  double IndiceDeLaPeriode() override {
+    return n.dRechercheValeur_Constantes(n.gRsConstantes, "INDMAJELU");
+  }
+  double IndiceDuMois() override {
+    double I = 0;
+    return n.dRechercheIndMajElu(I, n.gPeriodeEncours, "0");
+  }
+  double MoisAnterieur(VarCalculSalarie& s, int iMois, double dTaux) override {
+    double X = 0;
+    return n.dRechercheIndMajEluPeriode(s, n.gPeriodeEncours, std::to_string(iMois), X, dTaux);
+  }
+  void CoefficientsDuTaux(VarCalculSalarie& s, const std::string& sPeriode) override {
+    n.CalculCoefficientUtilisationTauxElus(s, sPeriode);
+  }
+  void JoursDePresence(VarCalculSalarie& s, const std::string& sPeriode) override {
+    n.CalculNombreJourPresence(s, sPeriode);
+  }
+
+ private:
+  MethodeCalculG_Nouv& n;
+};
 
 }  // namespace
 
@@ -147,33 +200,26 @@ double MethodeCalculG_Nouv::dRechercheIndMajEluPeriode(VarCalculSalarie& InfosSa
 
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElus(VarCalculSalarie& InfosSalaries,
                                                                   SalarieCalculRubrique& Rubrique) {
-  TraitementPeriode(*this, InfosSalaries, Rubrique, false);
+  ElusCourant e(*this);
+  elus::TraitementIndiciaireElus(e, InfosSalaries, Rubrique, false);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedent(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
-  TraitementPeriode(*this, InfosSalaries, Rubrique, true);
+  ElusCourant e(*this);
+  elus::TraitementIndiciaireElus(e, InfosSalaries, Rubrique, true);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusMois(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
-  VarCalculSalarie& s = InfosSalaries;
-  double I = 0;
-  s.dIndiceMajoreM = dRechercheIndMajElu(I, gPeriodeEncours, "0");
-  MoisDuTaux(*this, s, false, s.dCoefficient_Traitement);
-  elus::Ligne(Rubrique, s.dSalarie_MensuelPleinN, s.dIndiceMajoreM, s.dSalarie_MensuelN);
+  ElusCourant e(*this);
+  elus::TraitementIndiciaireElusMois(e, InfosSalaries, Rubrique);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_TraitementIndiciaireElusPrecedentMois(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
-  VarCalculSalarie& s = InfosSalaries;
-  const double R = elus::CoefficientTaux(s.dTauxMairePrecedent, s.dTauxEPCIPrecedent);
-  s.dIndiceMajoreM = dRechercheValeur_Constantes(gRsConstantes, "INDMAJELU");
-  s.dSalarie_MensuelPleinA = elus::PleinSurIndiceDuMois(*this, s);
-  CalculCoefficientUtilisationTauxElus(s, gPeriodeEncours);
-  s.dSalarie_MensuelReelA = s.dCoefficient_IAncien * s.dSalarie_MensuelPleinA * R;
-  s.dSalarie_MensuelA = s.dSalarie_MensuelReelA;
-  elus::Ligne(Rubrique, s.dSalarie_MensuelPleinA, s.dIndiceMajoreM, s.dSalarie_MensuelA);
+  ElusCourant e(*this);
+  elus::TraitementIndiciaireElusPrecedentMois(e, InfosSalaries, Rubrique);
 }
 
 }  // namespace orvalis

@@ -5,9 +5,12 @@
 #include "generic/taux_regles.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/heures_supp.h"
 #include "salary/salaire_outils.h"
 
 namespace orvalis {
+
+namespace heures {
 
 namespace {
 
@@ -19,8 +22,8 @@ struct Smic {
 
 // Indexed models: the yearly reference over the hours of a year, never below the SMIC.
 // Other models: their percentage of the SMIC, or their own hourly rate.
-double TauxComplementaire(MethodeCalculG_Nouv& m, const VarCalculSalarie& s,
-                          const RsRef& RsVariables, double dReference, const Smic& smic) {
+double TauxComplementaire(MoteurCalcul& m, const VarCalculSalarie& s, const RsRef& RsVariables,
+                          double dReference, const Smic& smic) {
   const double Sm = Arrondi(smic.dSmicHoraire, 2);
   if (taux::ModeleIndiciaire(s)) {
     const double Hm = Arrondi(smic.dHeuresMois, 2);
@@ -38,10 +41,10 @@ double TauxComplementaire(MethodeCalculG_Nouv& m, const VarCalculSalarie& s,
   return m.dRechercheValeur_Variable(RsVariables, "TXHEURES");
 }
 
-void HeuresComplementaires(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
-                           SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-                           const RsRef& RsVariablesDuTaux, double dReference, const Smic& smic) {
-  const double H = m.RechercheValeurBase(InfosSalaries, RsVarSalaries, Rubrique);
+void LigneComplementaire(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
+                         SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+                         const RsRef& RsVariablesDuTaux, double dReference, const Smic& smic) {
+  const double H = m.BaseDeLigne(InfosSalaries, RsVarSalaries, Rubrique);
   const double dTaux =
       H == 0 ? 0 : TauxComplementaire(m, InfosSalaries, RsVariablesDuTaux, dReference, smic);
   salaire::EcritLigne(Rubrique, H, dTaux, dTaux * H);
@@ -49,33 +52,28 @@ void HeuresComplementaires(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalari
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
-                                                               SalarieCalculRubrique& Rubrique,
-                                                               const RsRef& RsVarSalaries) {
-  HeuresComplementaires(*this, InfosSalaries, Rubrique, RsVarSalaries, RsVarSalaries,
-                        InfosSalaries.dBase_HSN,
-                        {ConstanteFixe("SmicHor"), ConstanteFixe("HrsMois")});
+void HeuresComplementaires(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                           const RsRef& RsVarSalaries) {
+  LigneComplementaire(m, s, r, RsVarSalaries, RsVarSalaries, s.dBase_HSN,
+                      {m.ConstanteFixe("SmicHor"), m.ConstanteFixe("HrsMois")});
 }
 
 // The hours of the month before are paid at that month's rate: its reference salary, its
 // SMIC and hours, and the hourly variables of that month when the host passes them.
-void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementairesPrec(
-    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-    const RsRef& RsVarSalariesHisto) {
+void HeuresComplementairesPrec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                               const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto) {
   Smic smic{0, 0};
-  dRechercheSmicHistorique(smic.dSmicHoraire, smic.dHeuresMois);
-  HeuresComplementaires(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                        RsVarSalariesHisto ? RsVarSalariesHisto : RsVarSalaries,
-                        InfosSalaries.dBase_HSA, smic);
+  m.dRechercheSmicHistorique(smic.dSmicHoraire, smic.dHeuresMois);
+  LigneComplementaire(m, s, r, RsVarSalaries,
+                      RsVarSalariesHisto ? RsVarSalariesHisto : RsVarSalaries, s.dBase_HSA, smic);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(
-    VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& Rubrique,
-    const RsRef& RsVarSalaries) {
-  const double dHeuresTravaillees = dRechercheValeurCumul("HEURES", "S");
-  double A = dRechercheValeur_Variable(RsVarSalaries, "NBHRAV35");
+void ComplementDifferentiel35H(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
+                               const RsRef& RsVarSalaries) {
+  const double dHeuresTravaillees = m.dRechercheValeurCumul("HEURES", "S");
+  double A = m.dRechercheValeur_Variable(RsVarSalaries, "NBHRAV35");
   // 169 stands for a full month before 35 hours: it follows the hours worked.
-  if (A == 169) A = Div(dHeuresTravaillees * 169, ConstanteFixe("HrsMois"));
+  if (A == 169) A = Div(dHeuresTravaillees * 169, m.ConstanteFixe("HrsMois"));
 
   Rubrique.dTauxSalarial = 0;
   Rubrique.dTauxPatronal = 0;
@@ -94,17 +92,39 @@ void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(
   rs.ClearFilter();
   double dTaux = 0;
   if (bTxSmic) {
-    dTaux = dTxSmic * ConstanteFixe("SmicHor") / 100;
+    dTaux = dTxSmic * m.ConstanteFixe("SmicHor") / 100;
   } else {
-    dRechercheValeur_VariableBis(RsVarSalaries, "TXHEURES", dTaux);
+    m.dRechercheValeur_VariableBis(RsVarSalaries, "TXHEURES", dTaux);
   }
 
   const double dPaye = dHeuresTravaillees * dTaux;
-  const double dGaranti = Arrondi((dRechercheValeur_Constantes(gRsConstantes, "SMICTXVAL") / 100 + 1) *
-                                      dRechercheValeur_Constantes(gRsConstantes, "SMIC35") * A,
-                                  2);
+  const double dGaranti =
+      Arrondi((m.dRechercheValeur_Constantes(m.gRsConstantes, "SMICTXVAL") / 100 + 1) *
+                  m.dRechercheValeur_Constantes(m.gRsConstantes, "SMIC35") * A,
+              2);
   Rubrique.dBase = dGaranti;
   Rubrique.dMontantSalarial = dGaranti - dPaye;
+}
+
+}  // namespace heures
+
+void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
+                                                               SalarieCalculRubrique& Rubrique,
+                                                               const RsRef& RsVarSalaries) {
+  heures::HeuresComplementaires(*this, InfosSalaries, Rubrique, RsVarSalaries);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_HeuresComplementairesPrec(
+    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
+    const RsRef& RsVarSalariesHisto) {
+  heures::HeuresComplementairesPrec(*this, InfosSalaries, Rubrique, RsVarSalaries,
+                                    RsVarSalariesHisto);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_ComplementDifferentiel35H(
+    VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& Rubrique,
+    const RsRef& RsVarSalaries) {
+  heures::ComplementDifferentiel35H(*this, Rubrique, RsVarSalaries);
 }
 
 }  // namespace orvalis

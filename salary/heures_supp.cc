@@ -8,10 +8,13 @@
 #include <string>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "salary/heures_supp.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "salary/salaire_outils.h"
 
 namespace orvalis {
+
+namespace heures {
 
 namespace {
 
@@ -28,7 +31,7 @@ struct LigneHS {
 };
 
 // A statutory value of the month before, or of the month when that one is 0.
-double FixeMoisPrecedent(MethodeCalculG_Nouv& m, const char* sChamp) {
+double FixeMoisPrecedent(MoteurCalcul& m, const char* sChamp) {
   double dValeur = 0;
   m.dRechercheHistoriqueMois(sChamp, dValeur);
   if (dValeur == 0) dValeur = m.ConstanteFixe(sChamp);
@@ -64,7 +67,7 @@ void EcritLigne(SalarieCalculRubrique& Rubrique, double dHeures, double dTaux) {
   salaire::EcritLigne(Rubrique, dHeures, dTaux, dTaux * dHeures);
 }
 
-void HeuresSuppDuMois(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
+void HeuresSuppDuMois(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
                       SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
                       const LigneHS& l) {
   const double M = m.dRechercheValeur_Variable(RsVarSalaries, l.sVariable);
@@ -78,7 +81,7 @@ void HeuresSuppDuMois(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
   EcritLigne(Rubrique, dHeures, dTaux);
 }
 
-void HeuresSuppDuMoisPrecedent(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
+void HeuresSuppDuMoisPrecedent(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
                                SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
                                const LigneHS& l) {
   const double P = m.dRechercheValeur_Variable(RsVarSalaries, l.sVariable);
@@ -104,86 +107,138 @@ bool LigneDeNuit(const std::string& sNomcalcul) { return sNomcalcul.find("NUITS"
 
 }  // namespace
 
+void HS_Moins14(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(m, s, r, RsVarSalaries, {Part::DansLaBorne, "HSNORMALEM", "HSCoefNorm", ""});
+}
+
+void HS_Plus14(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+               const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(m, s, r, RsVarSalaries,
+                   {Part::AuDelaDeLaBorne, "HSNORMALEM", "HSCoefSupp", ""});
+}
+
+void HS_Nuit(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+             const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(m, s, r, RsVarSalaries,
+                   {Part::DansLaBorne, VariableSelonCode(r, "HSNUITM", "HSNUITEX"),
+                    "HSCoefNuit", ""});
+}
+
+void HS_Ferie(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+              const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(m, s, r, RsVarSalaries,
+                   {Part::DansLaBorne, VariableSelonCode(r, "HSFERIEM", "HSFEREX"), "HSCoefJf",
+                    ""});
+}
+
+void HS_NuitFeriePlus14(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                        const RsRef& RsVarSalaries, const std::string& sNomcalcul) {
+  const LigneHS l = LigneDeNuit(sNomcalcul)
+                        ? LigneHS{Part::AuDelaDeLaBorne, "HSNUITM", "HSCOEFNUITSUPP", ""}
+                        : LigneHS{Part::AuDelaDeLaBorne, "HSFERIEM", "HSCOEFJFSUPP", ""};
+  HeuresSuppDuMois(m, s, r, RsVarSalaries, l);
+}
+
+void HS_Moins14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                    const RsRef& RsVarSalaries) {
+  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+                            {Part::DansLaBorne, "HSNORMALEP", "HSCoefNorm", "HSNORMALEM"});
+}
+
+void HS_Plus14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                   const RsRef& RsVarSalaries) {
+  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+                            {Part::AuDelaDeLaBorne, "HSNORMALEP", "HSCoefSupp", "HSNORMALEM"});
+}
+
+void HS_NuitPrec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                 const RsRef& RsVarSalaries) {
+  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+                            {Part::DansLaBorne, "HSNUITP", "HSCoefNuit", "HSNUITM"});
+}
+
+void HS_FeriePrec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                  const RsRef& RsVarSalaries) {
+  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+                            {Part::DansLaBorne, "HSFERIEP", "HSCoefJf", "HSFERIEM"});
+}
+
+void HS_NuitFeriePlus14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
+                            const RsRef& RsVarSalaries, const std::string& sNomcalcul) {
+  const LigneHS l =
+      LigneDeNuit(sNomcalcul)
+          ? LigneHS{Part::AuDelaDeLaBorne, "HSNUITP", "HSCOEFNUITSUPP", "HSNUITM"}
+          : LigneHS{Part::AuDelaDeLaBorne, "HSFERIEP", "HSCOEFJFSUPP", "HSFERIEM"};
+  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries, l);
+}
+
+}  // namespace heures
+
+
 void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries,
                                                     SalarieCalculRubrique& Rubrique,
                                                     const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                   {Part::DansLaBorne, "HSNORMALEM", "HSCoefNorm", ""});
+  heures::HS_Moins14(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries,
                                                    SalarieCalculRubrique& Rubrique,
                                                    const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                   {Part::AuDelaDeLaBorne, "HSNORMALEM", "HSCoefSupp", ""});
+  heures::HS_Plus14(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries,
                                                  SalarieCalculRubrique& Rubrique,
                                                  const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                   {Part::DansLaBorne, VariableSelonCode(Rubrique, "HSNUITM", "HSNUITEX"),
-                    "HSCoefNuit", ""});
+  heures::HS_Nuit(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries,
                                                   SalarieCalculRubrique& Rubrique,
                                                   const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                   {Part::DansLaBorne, VariableSelonCode(Rubrique, "HSFERIEM", "HSFEREX"),
-                    "HSCoefJf", ""});
+  heures::HS_Ferie(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
                                                             SalarieCalculRubrique& Rubrique,
                                                             const RsRef& RsVarSalaries,
                                                             const std::string& sNomcalcul) {
-  const LigneHS l = LigneDeNuit(sNomcalcul)
-                        ? LigneHS{Part::AuDelaDeLaBorne, "HSNUITM", "HSCOEFNUITSUPP", ""}
-                        : LigneHS{Part::AuDelaDeLaBorne, "HSFERIEM", "HSCOEFJFSUPP", ""};
-  HeuresSuppDuMois(*this, InfosSalaries, Rubrique, RsVarSalaries, l);
+  heures::HS_NuitFeriePlus14(*this, InfosSalaries, Rubrique, RsVarSalaries, sNomcalcul);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
                                                         SalarieCalculRubrique& Rubrique,
                                                         const RsRef& RsVarSalaries,
                                                         const RsRef& /*RsVarSalariesHisto*/) {
-  HeuresSuppDuMoisPrecedent(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                            {Part::DansLaBorne, "HSNORMALEP", "HSCoefNorm", "HSNORMALEM"});
+  heures::HS_Moins14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
                                                        SalarieCalculRubrique& Rubrique,
                                                        const RsRef& RsVarSalaries,
                                                        const RsRef& /*RsVarSalariesHisto*/) {
-  HeuresSuppDuMoisPrecedent(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                            {Part::AuDelaDeLaBorne, "HSNORMALEP", "HSCoefSupp", "HSNORMALEM"});
+  heures::HS_Plus14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries,
                                                      SalarieCalculRubrique& Rubrique,
                                                      const RsRef& RsVarSalaries,
                                                      const RsRef& /*RsVarSalariesHisto*/) {
-  HeuresSuppDuMoisPrecedent(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                            {Part::DansLaBorne, "HSNUITP", "HSCoefNuit", "HSNUITM"});
+  heures::HS_NuitPrec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries,
                                                       SalarieCalculRubrique& Rubrique,
                                                       const RsRef& RsVarSalaries,
                                                       const RsRef& /*RsVarSalariesHisto*/) {
-  HeuresSuppDuMoisPrecedent(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                            {Part::DansLaBorne, "HSFERIEP", "HSCoefJf", "HSFERIEM"});
+  heures::HS_FeriePrec(*this, InfosSalaries, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_HS_NuitFeriePlus14Prec(
     VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
     const RsRef& /*RsVarSalariesHisto*/, const std::string& sNomcalcul) {
-  const LigneHS l =
-      LigneDeNuit(sNomcalcul)
-          ? LigneHS{Part::AuDelaDeLaBorne, "HSNUITP", "HSCOEFNUITSUPP", "HSNUITM"}
-          : LigneHS{Part::AuDelaDeLaBorne, "HSFERIEP", "HSCOEFJFSUPP", "HSFERIEM"};
-  HeuresSuppDuMoisPrecedent(*this, InfosSalaries, Rubrique, RsVarSalaries, l);
+  heures::HS_NuitFeriePlus14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries, sNomcalcul);
 }
 
 }  // namespace orvalis

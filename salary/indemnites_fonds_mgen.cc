@@ -6,6 +6,7 @@
 #include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/indemnites_partagees.h"
 
 namespace orvalis {
 
@@ -17,7 +18,7 @@ struct TauxDeLaLigne {
   double dPatronal = 0;
 };
 
-TauxDeLaLigne TauxParId(MethodeCalculG_Nouv& m, Int32 lIdTaux) {
+TauxDeLaLigne TauxParId(MoteurCalcul& m, Int32 lIdTaux) {
   TauxDeLaLigne t;
   Recordset& rs = Source(m.gRsTaux, "gRsTaux");
   if (rs.RecordCount() == 0) return t;
@@ -33,17 +34,18 @@ TauxDeLaLigne TauxParId(MethodeCalculG_Nouv& m, Int32 lIdTaux) {
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
-                                                         SalarieCalculRubrique& Rubrique) {
+void indemnites::FondsSolidarite(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
+                                 SalarieCalculRubrique& Rubrique) {
   if (!InfosSalaries.bSoumisFondsSolidarite) return;
   const double dSeuil = Arrondi(
-      Arrondi(ConstanteFixe("Point"), 2) * Arrondi(ConstanteFixe("IndFndSol"), 2) / 12 - 0.0049, 2);
-  if (dRechercheValeurCumul("SEUILFONDS", "S") <= dSeuil) return;
+      Arrondi(m.ConstanteFixe("Point"), 2) * Arrondi(m.ConstanteFixe("IndFndSol"), 2) / 12 - 0.0049,
+      2);
+  if (m.dRechercheValeurCumul("SEUILFONDS", "S") <= dSeuil) return;
 
   // Percentages of the base, as on a line "BASE x TAUX": amounts on the rates as read, the
   // rates shown to 4 places.
-  const double dBase = dRechercheValeurCumul("ASSFNDSOL", "S");
-  const TauxDeLaLigne t = TauxParId(*this, Rubrique.lIdTaux);
+  const double dBase = m.dRechercheValeurCumul("ASSFNDSOL", "S");
+  const TauxDeLaLigne t = TauxParId(m, Rubrique.lIdTaux);
   Rubrique.dBase = dBase;
   Rubrique.dTauxSalarial = Arrondi(t.dSalarial, 4);
   Rubrique.dMontantSalarial = dBase * t.dSalarial / 100;
@@ -51,26 +53,26 @@ void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& Infos
   Rubrique.dMontantPatronal = dBase * t.dPatronal / 100;
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries,
-                                              SalarieCalculRubrique& Rubrique,
-                                              const RsRef& RsVarSalaries,
-                                              const RsRef& RsVarSalariesHisto,
-                                              const RsRef& RsSalariesHisto, bool bOption) {
-  const LectureLigne l{*this,    InfosSalaries, RsVarSalaries, RsVarSalariesHisto,
-                       Rubrique, RsSalariesHisto};
-  const double S = InfosSalaries.dSalaire_MensuelIATA + InfosSalaries.dSalaire_MensuelIATN +
-                   InfosSalaries.dSalaire_MensuelINTA + InfosSalaries.dSalaire_MensuelINTN;
+void MethodeCalculG_Nouv::CalculRubrique_FondsSolidarite(VarCalculSalarie& InfosSalaries,
+                                                         SalarieCalculRubrique& Rubrique) {
+  indemnites::FondsSolidarite(*this, InfosSalaries, Rubrique);
+}
+
+void indemnites::Mgen(const LectureLigne& l, double dTraitementDuMois, bool bOption) {
+  MoteurCalcul& m = l.m;
+  SalarieCalculRubrique& Rubrique = l.Rubrique;
+  const double S = dTraitementDuMois;
   double B = l.Base();
   // The treatment of the month leaves the base once the MGEN total goes beyond it.
-  if (dRechercheValeurCumul("ASSMGEN", "S") > S) B = B - S;
+  if (m.dRechercheValeurCumul("ASSMGEN", "S") > S) B = B - S;
   std::string sType;
   const double dTaux = l.TauxSalarial(sType);
   const double dMontant = sType == "T" ? B * dTaux / 100 : B * dTaux;
 
   const double dMinimum =
-      dRechercheValeur_Constantes(gRsConstantes, bOption ? "COTMINMG30" : "COTMINMGEN");
+      m.dRechercheValeur_Constantes(m.gRsConstantes, bOption ? "COTMINMG30" : "COTMINMGEN");
   const double dMaximum =
-      dRechercheValeur_Constantes(gRsConstantes, bOption ? "COTMAXMG30" : "COTMAXMGEN");
+      m.dRechercheValeur_Constantes(m.gRsConstantes, bOption ? "COTMAXMG30" : "COTMAXMGEN");
   Rubrique.dTauxPatronal = 0;
   Rubrique.dMontantPatronal = 0;
   // A bound of 0 is a bound the host has not set: no ceiling then.
@@ -85,6 +87,19 @@ void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries,
   Rubrique.dBase = B;
   Rubrique.dTauxSalarial = Arrondi(dTaux, 4);
   Rubrique.dMontantSalarial = dMontant;
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Mgen(VarCalculSalarie& InfosSalaries,
+                                              SalarieCalculRubrique& Rubrique,
+                                              const RsRef& RsVarSalaries,
+                                              const RsRef& RsVarSalariesHisto,
+                                              const RsRef& RsSalariesHisto, bool bOption) {
+  const VarCalculSalarie& s = InfosSalaries;
+  indemnites::Mgen(
+      {*this, InfosSalaries, RsVarSalaries, RsVarSalariesHisto, Rubrique, RsSalariesHisto},
+      s.dSalaire_MensuelIATA + s.dSalaire_MensuelIATN + s.dSalaire_MensuelINTA +
+          s.dSalaire_MensuelINTN,
+      bOption);
 }
 
 }  // namespace orvalis

@@ -6,6 +6,8 @@
 #include "orvalis/ModOutilsSpec.h"
 #include "orvalis/dates.h"
 #include "period/periode_outils.h"
+#include "salary/elements_cellules.h"
+#include "salary/indemnites_partagees.h"
 #include "salary/salaire_outils.h"
 
 namespace orvalis {
@@ -16,7 +18,7 @@ using salaire::EcritLigne;
 using salaire::FixeOuZero;
 
 // Days of the situations "C" and "N" in the pay month, on the 30-day month.
-Int16 JoursDeFormation(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries) {
+Int16 JoursDeFormation(MoteurCalcul& m, VarCalculSalarie& InfosSalaries) {
   const Date dDebutMois = LireDate(m.gPeriodeEncours);
   const std::string sDebutMois = TexteDate(dDebutMois);
   const std::string sFinMois = TexteDate(DernierJourDuMois(dDebutMois));
@@ -31,38 +33,48 @@ Int16 JoursDeFormation(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries) 
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
-                                                             const RsRef& RsVarSalaries,
-                                                             SalarieCalculRubrique& Rubrique) {
+void indemnites::AllocationFormation(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
+                                     const RsRef& RsVarSalaries, SalarieCalculRubrique& Rubrique) {
   // The yearly pay of the minimum index with its residence allowance, over the hours of a
   // year.
-  const double dPoint = ConstanteFixe("Point");
-  const double dIndiceMinimum = FixeOuZero(*this, "IndMinRemuneration");
+  const double dPoint = m.ConstanteFixe("Point");
+  const double dIndiceMinimum = FixeOuZero(m, "IndMinRemuneration");
   const double dTraitement = Arrondi(dIndiceMinimum * dPoint, 2);
   double dResidence = 0;
   if (InfosSalaries.iZoneResid > 0) {
-    const double dIndiceResidence = ConstanteFixe("IndResid");
+    const double dIndiceResidence = m.ConstanteFixe("IndResid");
     dResidence = dIndiceMinimum < dIndiceResidence
                      ? Arrondi(dIndiceResidence * dPoint, 2) * InfosSalaries.iZoneResid / 100
                      : dTraitement * InfosSalaries.iZoneResid / 100;
   }
-  const double dHeuresAn = ConstanteFixe("HrsMois") * 12;
+  const double dHeuresAn = m.ConstanteFixe("HrsMois") * 12;
   const double dTaux = dHeuresAn == 0 ? 0 : (dTraitement + dResidence) / dHeuresAn;
 
-  const double dHeures = dRechercheValeur_Variable(RsVarSalaries, "HRSALLFOR");
+  const double dHeures = m.dRechercheValeur_Variable(RsVarSalaries, "HRSALLFOR");
   EcritLigne(Rubrique, dHeures, dTaux, Arrondi(dHeures * dTaux, 2));
 }
 
+void MethodeCalculG_Nouv::CalculRubrique_AllocationFormation(VarCalculSalarie& InfosSalaries,
+                                                             const RsRef& RsVarSalaries,
+                                                             SalarieCalculRubrique& Rubrique) {
+  indemnites::AllocationFormation(*this, InfosSalaries, RsVarSalaries, Rubrique);
+}
+
 // The days of training leave of the month, paid on the month's bound over 30 days.
+void salaire::RubriqueIndemniteFormation(MoteurCalcul& m, VarCalculSalarie& s,
+                                         SalarieCalculRubrique& Rubrique) {
+  const double dPlafondAnnuel = Arrondi(
+      m.dRechercheValeur_Constantes(m.gRsConstantes, "INDMAXFORM") * m.ConstanteFixe("Point"), 2);
+  const double dPlafondMois = Arrondi(dPlafondAnnuel / 12, 2);
+  const Int16 iJours = JoursDeFormation(m, s);
+  if (iJours == 0) return;
+  EcritLigne(Rubrique, iJours.value(), 0, Arrondi(dPlafondMois * iJours.value() / 30, 2));
+}
+
 void MethodeCalculG_Nouv::CalculRubrique_IndemniteFormation(VarCalculSalarie& InfosSalaries,
                                                             const RsRef& /*RsVarSalaries*/,
                                                             SalarieCalculRubrique& Rubrique) {
-  const double dPlafondAnnuel =
-      Arrondi(dRechercheValeur_Constantes(gRsConstantes, "INDMAXFORM") * ConstanteFixe("Point"), 2);
-  const double dPlafondMois = Arrondi(dPlafondAnnuel / 12, 2);
-  const Int16 iJours = JoursDeFormation(*this, InfosSalaries);
-  if (iJours == 0) return;
-  EcritLigne(Rubrique, iJours.value(), 0, Arrondi(dPlafondMois * iJours.value() / 30, 2));
+  salaire::RubriqueIndemniteFormation(*this, InfosSalaries, Rubrique);
 }
 
 }  // namespace orvalis

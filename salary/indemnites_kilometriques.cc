@@ -4,6 +4,7 @@
 #include <string>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
+#include "salary/indemnites_partagees.h"
 
 namespace orvalis {
 
@@ -27,10 +28,9 @@ std::string PrefixeDuBareme(Int32 lKmPuissance) {
 
 }  // namespace
 
-double MethodeCalculG_Nouv::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance,
-                                                Int32 lKmCumule, double& dTaux1,
-                                                double& dTaux2, Int32& lKm1, Int32& lKm2,
-                                                double& dMontant) {
+double indemnites::BaremeKilometrique(MoteurCalcul& m, Int32 lKmParcouru, Int32 lKmPuissance,
+                                      Int32 lKmCumule, double& dTaux1, double& dTaux2,
+                                      Int32& lKm1, Int32& lKm2, double& dMontant) {
   dTaux1 = 0;
   dTaux2 = 0;
   lKm1 = 0;
@@ -40,7 +40,7 @@ double MethodeCalculG_Nouv::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuis
 
   const std::string sBareme = PrefixeDuBareme(lKmPuissance);
   const auto Taux = [&](int iTranche) {
-    return dRechercheValeur_Constantes(gRsConstantes, sBareme + "TR" + std::to_string(iTranche));
+    return m.dRechercheValeur_Constantes(m.gRsConstantes, sBareme + "TR" + std::to_string(iTranche));
   };
   const int iTranche = Tranche(lKmCumule);
   dTaux1 = Taux(iTranche);
@@ -57,8 +57,16 @@ double MethodeCalculG_Nouv::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuis
   return dMontant;
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
-                                                               SalarieCalculRubrique& Rubrique) {
+double MethodeCalculG_Nouv::dBaremeKilometrique(Int32 lKmParcouru, Int32 lKmPuissance,
+                                                Int32 lKmCumule, double& dTaux1,
+                                                double& dTaux2, Int32& lKm1, Int32& lKm2,
+                                                double& dMontant) {
+  return indemnites::BaremeKilometrique(*this, lKmParcouru, lKmPuissance, lKmCumule, dTaux1,
+                                        dTaux2, lKm1, lKm2, dMontant);
+}
+
+void indemnites::IndemniteKilometrique(MoteurCalcul& m, const VarCalculSalarie& InfosSalaries,
+                                       SalarieCalculRubrique& Rubrique) {
   const Int32 lKmAvant =
       InfosSalaries.lKmCumule - InfosSalaries.lKmParcouru1 - InfosSalaries.lKmParcouru2;
   double dBase = 0, dMontant = 0;
@@ -66,8 +74,8 @@ void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie&
   const auto Vehicule = [&](Int32 lKmParcouru, Int32 lKmPuissance) {
     double dTaux1 = 0, dTaux2 = 0, dMontantVehicule = 0;
     Int32 lKm1 = 0, lKm2 = 0;
-    dBaremeKilometrique(lKmParcouru, lKmPuissance, lKmAvant, dTaux1, dTaux2, lKm1, lKm2,
-                        dMontantVehicule);
+    BaremeKilometrique(m, lKmParcouru, lKmPuissance, lKmAvant, dTaux1, dTaux2, lKm1, lKm2,
+                       dMontantVehicule);
     if (lKm1 > 0) taux.insert(dTaux1);
     if (lKm2 > 0) taux.insert(dTaux2);
     dBase += lKm1.value() + lKm2.value();
@@ -82,6 +90,11 @@ void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie&
   Rubrique.dMontantSalarial = dMontant;
   Rubrique.dTauxPatronal = 0;
   Rubrique.dMontantPatronal = 0;
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_IndemniteKilometrique(VarCalculSalarie& InfosSalaries,
+                                                               SalarieCalculRubrique& Rubrique) {
+  indemnites::IndemniteKilometrique(*this, InfosSalaries, Rubrique);
 }
 
 }  // namespace orvalis

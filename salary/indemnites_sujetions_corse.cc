@@ -5,38 +5,36 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/elements_cellules.h"
 #include "salary/salaire_outils.h"
-#include "salary/traitement_outils.h"
 
 namespace orvalis {
 
-namespace {
-
-// The yearly reference of one index, for its share of the month and its days on duty:
-// the days of end of activity and of training leave are not on duty.
-double PartSurIndice(double dReference, double dCoefficients, Int16 iPresence,
-                     Int16 iHorsService) {
-  if (iPresence == 0) return 0;
-  return dReference * dCoefficients * (iPresence - iHorsService).value() / iPresence.value();
+void salaire::RubriqueSujetionsSpeciales(SalarieCalculRubrique& Rubrique,
+                                         const std::vector<PartIndice>& parts) {
+  double dBase = 0;
+  for (const PartIndice& p : parts) {
+    if (p.iPresence == 0) continue;
+    dBase = dBase + p.dReference * p.dCoefficients * (p.iPresence - p.iHorsService).value() /
+                        p.iPresence.value();
+  }
+  // A month of the yearly base, as a month salary: the cent goes downward.
+  salaire::EcritLigne(Rubrique, dBase, 0, salaire::DouziemeArrondi(dBase));
 }
-
-}  // namespace
 
 void MethodeCalculG_Nouv::CalculRubrique_SujetionsSpeciales(VarCalculSalarie& InfosSalaries,
                                                             SalarieCalculRubrique& Rubrique) {
   const VarCalculSalarie& s = InfosSalaries;
-  // Each index pays on its own quadrants' share of the month.
-  const double dNouvel = PartSurIndice(
-      s.dBase_HSN, s.dCoefficient_INTA + s.dCoefficient_INTN,
-      s.iNBJ_PresenceINTA + s.iNBJ_PresenceINTN,
-      s.iNBJ_CFAINTA + s.iNBJ_CFAINTN + s.iNBJ_CongeFormationINTA + s.iNBJ_CongeFormationINTN);
-  const double dAncien = PartSurIndice(
-      s.dBase_HSA, s.dCoefficient_IATA + s.dCoefficient_IATN,
-      s.iNBJ_PresenceIATA + s.iNBJ_PresenceIATN,
-      s.iNBJ_CFAIATA + s.iNBJ_CFAIATN + s.iNBJ_CongeFormationIATA + s.iNBJ_CongeFormationIATN);
-  const double dBase = dNouvel + dAncien;
-  // A month of the yearly base, as a month salary: the cent goes downward.
-  salaire::EcritLigne(Rubrique, dBase, 0, salaire::DouziemeArrondi(dBase));
+  // Each index pays on its own quadrants' share of the month; the days of end of activity
+  // and of training leave are not on duty.
+  salaire::RubriqueSujetionsSpeciales(
+      Rubrique,
+      {{s.dBase_HSN, s.dCoefficient_INTA + s.dCoefficient_INTN,
+        s.iNBJ_PresenceINTA + s.iNBJ_PresenceINTN,
+        s.iNBJ_CFAINTA + s.iNBJ_CFAINTN + s.iNBJ_CongeFormationINTA + s.iNBJ_CongeFormationINTN},
+       {s.dBase_HSA, s.dCoefficient_IATA + s.dCoefficient_IATN,
+        s.iNBJ_PresenceIATA + s.iNBJ_PresenceIATN,
+        s.iNBJ_CFAIATA + s.iNBJ_CFAIATN + s.iNBJ_CongeFormationIATA + s.iNBJ_CongeFormationIATN}});
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Indemnite_transport_Corse(VarCalculSalarie& InfosSalaries,

@@ -7,8 +7,9 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/indemnites_partagees.h"
 #include "salary/salaire_outils.h"
-#include "salary/traitement_outils.h"
+#include "salary/elements_cellules.h"
 
 namespace orvalis {
 
@@ -41,7 +42,7 @@ bool VariablesDuGroupe(const std::string& sCode, const std::string& sPrefixe,
 }
 
 // The line paid on the amount and coefficient of its variables, when the amount is above 0.
-void MontantDesVariables(MethodeCalculG_Nouv& m, SalarieCalculRubrique& Rubrique,
+void MontantDesVariables(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
                          const RsRef& RsVarSalaries, const Variables& v) {
   const double A = m.dRechercheValeur_Variable(RsVarSalaries, v.sMontant);
   if (A <= 0) return;
@@ -65,39 +66,54 @@ void DeuxMontants(MethodeCalculG_Nouv& m, SalarieCalculRubrique& Rubrique,
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/,
-                                                           SalarieCalculRubrique& Rubrique,
-                                                           const RsRef& RsVarSalaries) {
-  const double K = dRechercheValeur_Variable(RsVarSalaries, "COEFINF");
+void indemnites::PrimeInformatique(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
+                                   const RsRef& RsVarSalaries) {
+  const double K = m.dRechercheValeur_Variable(RsVarSalaries, "COEFINF");
   if (K == 0) return;
-  const double P = Arrondi(ConstanteFixe("Point"), 2);
-  const double I = Arrondi(ConstanteFixe("IndInform"), 2);
+  const double P = Arrondi(m.ConstanteFixe("Point"), 2);
+  const double I = Arrondi(m.ConstanteFixe("IndInform"), 2);
   const double dMois = salaire::DouziemeArrondi(P * I);
   EcritLigne(Rubrique, dMois, K, Arrondi(dMois * K, 2));
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/,
-                                                         SalarieCalculRubrique& Rubrique,
-                                                         const RsRef& RsVarSalaries) {
-  const double M = dRechercheValeur_Variable(RsVarSalaries, "CMREMBMOIS");
+void MethodeCalculG_Nouv::CalculRubrique_PrimeInformatique(VarCalculSalarie& /*InfosSalaries*/,
+                                                           SalarieCalculRubrique& Rubrique,
+                                                           const RsRef& RsVarSalaries) {
+  indemnites::PrimeInformatique(*this, Rubrique, RsVarSalaries);
+}
+
+void indemnites::CreditMunicipal(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
+                                 const RsRef& RsVarSalaries) {
+  const double M = m.dRechercheValeur_Variable(RsVarSalaries, "CMREMBMOIS");
   if (M == 0) return;
-  const double T = dRechercheValeur_Variable(RsVarSalaries, "CMREMBTOT");
-  const double R = dRechercheValeur_Variable(RsVarSalaries, "CMREMBREST");
+  const double T = m.dRechercheValeur_Variable(RsVarSalaries, "CMREMBTOT");
+  const double R = m.dRechercheValeur_Variable(RsVarSalaries, "CMREMBREST");
   if (R >= T) return;
   // The last instalment repays the balance and no more.
   EcritLigne(Rubrique, 0, 0, M + R >= T ? T - R : M);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/,
-                                                          SalarieCalculRubrique& Rubrique,
-                                                          const RsRef& RsVarSalaries) {
+void MethodeCalculG_Nouv::CalculRubrique_CreditMunicipal(VarCalculSalarie& /*InfosSalaries*/,
+                                                         SalarieCalculRubrique& Rubrique,
+                                                         const RsRef& RsVarSalaries) {
+  indemnites::CreditMunicipal(*this, Rubrique, RsVarSalaries);
+}
+
+void indemnites::MontantReference(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
+                                  const RsRef& RsVarSalaries) {
   static const std::pair<const char*, Variables> kCodes[] = {
       {"PRSERREN09", {"MTPSR", "MTPSRCOEF"}},
       {"HSIFTS09", {"MTIFTSM", "MTIFTSCOEF"}},
       {"INDEXMIS09", {"MTIEMPM", "MTIEMPCOEF"}},
   };
   for (const auto& [sCode, v] : kCodes)
-    if (Rubrique.sCodeRubrique == sCode) MontantDesVariables(*this, Rubrique, RsVarSalaries, v);
+    if (Rubrique.sCodeRubrique == sCode) MontantDesVariables(m, Rubrique, RsVarSalaries, v);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_MontantReference(VarCalculSalarie& /*InfosSalaries*/,
+                                                          SalarieCalculRubrique& Rubrique,
+                                                          const RsRef& RsVarSalaries) {
+  indemnites::MontantReference(*this, Rubrique, RsVarSalaries);
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Irf(VarCalculSalarie& /*InfosSalaries*/,
@@ -130,20 +146,24 @@ void MethodeCalculG_Nouv::CalculRubrique_Cia(VarCalculSalarie& /*InfosSalaries*/
     MontantDesVariables(*this, Rubrique, RsVarSalaries, v);
 }
 
-void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& InfosSalaries,
-                                             SalarieCalculRubrique& Rubrique,
-                                             const RsRef& RsVarSalaries) {
-  const double X = dRechercheValeur_Constantes(gRsConstantes, "TXIATDEP") *
-                   dRechercheValeur_Variable(RsVarSalaries, "MTIAT");
+void salaire::RubriqueIat(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
+                          const RsRef& RsVarSalaries, const TotauxDuMois& t) {
+  const double X = m.dRechercheValeur_Constantes(m.gRsConstantes, "TXIATDEP") *
+                   m.dRechercheValeur_Variable(RsVarSalaries, "MTIAT");
   if (X <= 0) return;
-  const double K = dRechercheValeur_Variable(RsVarSalaries, "MTIATCOEF");
+  const double K = m.dRechercheValeur_Variable(RsVarSalaries, "MTIATCOEF");
   double dBase = Arrondi(X, 2);
   // The allowance follows the treatment: nothing for a day of end of activity, half for a
   // day on half pay, over the 30 days of the month.
-  const double dJoursRetires =
-      InfosSalaries.iNBJ_CFA_Total.value() + InfosSalaries.iNBJ_DemiTraitement_Total.value() / 2.0;
+  const double dJoursRetires = t.iCFA.value() + t.iDemiTraitement.value() / 2.0;
   if (dJoursRetires > 0) dBase = Arrondi(dBase * std::max(30 - dJoursRetires, 0.0) / 30, 2);
   EcritLigne(Rubrique, dBase, K, Arrondi(K * dBase, 2));
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Iat(VarCalculSalarie& InfosSalaries,
+                                             SalarieCalculRubrique& Rubrique,
+                                             const RsRef& RsVarSalaries) {
+  salaire::RubriqueIat(*this, Rubrique, RsVarSalaries, salaire::TotauxQuatreQuarts(InfosSalaries));
 }
 
 }  // namespace orvalis

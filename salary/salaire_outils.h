@@ -8,7 +8,7 @@
 namespace orvalis::salaire {
 
 // A value of the statutory row that the host may leave null or empty: 0 then.
-inline double FixeOuZero(MethodeCalculG_Nouv& m, const char* sChamp) {
+inline double FixeOuZero(MoteurCalcul& m, const char* sChamp) {
   const Value v = Source(m.gRsConstantesFixes, "gRsConstantesFixes").Field(sChamp);
   if (v.EstNull() || (v.EstTexte() && v.Chaine().empty())) return 0;
   return v.Nombre();

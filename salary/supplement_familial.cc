@@ -4,6 +4,7 @@
 
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
+#include "salary/elements_cellules.h"
 #include "salary/indemnite_ligne.h"
 #include "salary/supplement_familial_situation.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 // The supplement on a treatment for n children: the scale's fixed part and percentage,
 // truncated to the cent, then each child past the third, then rounded.
-double Bareme(MethodeCalculG_Nouv& m, Int16 n, double dTraitement) {
+double Bareme(MoteurCalcul& m, Int16 n, double dTraitement) {
   double A;
   if (n == 1) {
     A = m.ConstanteFixe("SFFixe1");
@@ -36,11 +37,12 @@ double AuMoinsLePlancher(double dCoefficient, double A, double L) {
 }
 
 // The month's supplement by the post and the progressive end of activity; W days paid.
-double SupplementDuMois(const VarCalculSalarie& s, double A, double L, Int16 W) {
+double SupplementDuMois(const VarCalculSalarie& s, const std::vector<salaire::Quart>& situation,
+                        double A, double L, Int16 W) {
   const Int16 n = s.iEnfant_ACharge;
   if (s.sTypeCPA == "PD" || s.sTypeCPA == "PF") return W * AuMoinsLePlancher(s.dCoefficient_CPA, A, L) / 30;
   if (s.sOccupationPoste == "P") {
-    return std::max(indemnites::dSupplementFamilialSituation(s, A), W * L / 30);
+    return std::max(indemnites::dSupplementFamilialSituation(situation, A), W * L / 30);
   }
   if (s.sOccupationPoste == "T") {
     if (n > 1) {
@@ -50,32 +52,32 @@ double SupplementDuMois(const VarCalculSalarie& s, double A, double L, Int16 W) 
     return W * AuMoinsLePlancher(s.dCoefficientTraitementTPSiTNC, A, L) / 30;
   }
   // A full-time post ("N", "C" and any other value, chosen).
-  if (n > 1) return indemnites::dSupplementFamilialSituation(s, A);
+  if (n > 1) return indemnites::dSupplementFamilialSituation(situation, A);
   return W * A / 30;
 }
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& InfosSalaries,
-                                                            SalarieCalculRubrique& Rubrique) {
-  VarCalculSalarie& s = InfosSalaries;
+void salaire::RubriqueSupplementFamilial(MoteurCalcul& m, VarCalculSalarie& s,
+                                         SalarieCalculRubrique& Rubrique,
+                                         const MoisSupplementFamilial& mois) {
   const Int16 n = s.iEnfant_ACharge;
   if (!(n > 0)) return;
 
-  const double P = Arrondi(ConstanteFixe("Point"), 4);
-  const double MinI = Arrondi(ConstanteFixe("IndMinSF"), 2);
-  const double MaxI = Arrondi(ConstanteFixe("IndMaxSF"), 2);
+  const double P = Arrondi(m.ConstanteFixe("Point"), 4);
+  const double MinI = Arrondi(m.ConstanteFixe("IndMinSF"), 2);
+  const double MaxI = Arrondi(m.ConstanteFixe("IndMaxSF"), 2);
   const double TMin = Arrondi(P * MinI / 12 - 0.0049, 2);
   const double TMax = Arrondi(P * MaxI / 12 - 0.0049, 2);
 
-  const double T = s.dSalaire_MensuelPleinIATA + s.dSalaire_MensuelPleinIATN +
-                   s.dSalaire_MensuelPleinINTA + s.dSalaire_MensuelPleinINTN;
+  double T = 0;
+  for (const salaire::Quart& q : mois.pleins) T = T + q.dPlein;
   const double X = T < TMin ? TMin : std::min(T, TMax);
-  const double A = Bareme(*this, n, X);
-  const double L = Bareme(*this, n, TMin);
+  const double A = Bareme(m, n, X);
+  const double L = Bareme(m, n, TMin);
 
-  const Int16 W = s.iNBJ_Presence_Total - s.iNBJ_CFA_Total;
-  double dMontant = SupplementDuMois(s, A, L, W);
+  const Int16 W = mois.t.iPresence - mois.t.iCFA;
+  double dMontant = SupplementDuMois(s, mois.situation, A, L, W);
 
   // Several posts: the supplement of the legal duration shared by the hours of all posts.
   const double H = s.dDureeHebdoLegale == 0 ? 35 : s.dDureeHebdoLegale;
@@ -84,10 +86,21 @@ void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& In
   if (s.dEnfantsNonACharges > 0) dMontant = (n - s.dEnfantsNonACharges) * dMontant / n;
   s.dMontant_SFT = dMontant;
 
-  if (s.iNBJ_DispoOffice_Total > 0) {
-    dMontant = (s.iNBJ_Presence_Total - s.iNBJ_DispoOffice_Total) * dMontant / 30;
+  if (mois.t.iDispoOffice > 0) {
+    dMontant = (mois.t.iPresence - mois.t.iDispoOffice) * dMontant / 30;
   }
   indemnites::Ligne(Rubrique, X, n, dMontant);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_SupplementFamilial(VarCalculSalarie& InfosSalaries,
+                                                            SalarieCalculRubrique& Rubrique) {
+  VarCalculSalarie& s = InfosSalaries;
+  using namespace salaire;
+  // The full salaries in the quadrants' order; the share by quadrant, old hours first.
+  RubriqueSupplementFamilial(*this, s, Rubrique,
+                             {{IATA(s), IATN(s), INTA(s), INTN(s)},
+                              {IATA(s), INTA(s), IATN(s), INTN(s)},
+                              TotauxQuatreQuarts(s)});
 }
 
 }  // namespace orvalis

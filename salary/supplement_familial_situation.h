@@ -4,7 +4,10 @@
 #ifndef ORVALIS_SALARY_SUPPLEMENT_FAMILIAL_SITUATION_H_
 #define ORVALIS_SALARY_SUPPLEMENT_FAMILIAL_SITUATION_H_
 
+#include <vector>
+
 #include "orvalis/VarCalculSalarie.h"
+#include "salary/traitement_outils.h"
 
 namespace orvalis::indemnites {
 
@@ -17,17 +20,14 @@ inline double dSupplementFamilialArrondi(double dMontant, double T, double C, In
   return dMontant * T * C * iJours / (C * 30);
 }
 
-// The four quadrants, old hours on dCoefficient_TraitementTA, new hours on
-// dCoefficient_TraitementTN.
-inline double dSupplementFamilialSituation(const VarCalculSalarie& s, double dMontant) {
-  return dSupplementFamilialArrondi(dMontant, s.dCoefficient_TraitementTA, s.dCoefficient_IATA,
-                                    s.iNBJ_PresenceIATA, s.iNBJ_CFAIATA) +
-         dSupplementFamilialArrondi(dMontant, s.dCoefficient_TraitementTA, s.dCoefficient_INTA,
-                                    s.iNBJ_PresenceINTA, s.iNBJ_CFAINTA) +
-         dSupplementFamilialArrondi(dMontant, s.dCoefficient_TraitementTN, s.dCoefficient_IATN,
-                                    s.iNBJ_PresenceIATN, s.iNBJ_CFAIATN) +
-         dSupplementFamilialArrondi(dMontant, s.dCoefficient_TraitementTN, s.dCoefficient_INTN,
-                                    s.iNBJ_PresenceINTN, s.iNBJ_CFAINTN);
+// The cells in their order, each at the treatment coefficient of its hours.
+inline double dSupplementFamilialSituation(const std::vector<salaire::Quart>& cellules,
+                                           double dMontant) {
+  double d = 0;
+  for (const salaire::Quart& q : cellules)
+    d = d + dSupplementFamilialArrondi(dMontant, q.dTraitement, q.dCoefficient, q.iPresence,
+                                       q.iCFA);
+  return d;
 }
 
 }  // namespace orvalis::indemnites

@@ -3,19 +3,21 @@
 #include "generic/lecture_ligne.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
-#include "salary/traitement_outils.h"
+#include "salary/elements_cellules.h"
 
 namespace orvalis {
 
 namespace {
 
 // The full month of the index for the special forms (minimum index above 200), over the
-// whole month whatever the hours: the INTN full salary, as the later lines read it.
-double IndiceDesFormes(MethodeCalculG_Nouv& m, VarCalculSalarie& s) {
+// share dCoefficients of the month whatever the hours, into dPlein, as the later lines read
+// it.
+double IndiceDesFormes(MoteurCalcul& m, VarCalculSalarie& s, double dCoefficients,
+                       double& dPlein) {
   const double dIndice =
       salaire::IndiceRetenu(s.dIndiceMajoreM, salaire::IndiceMinimum(m), 200);
   const double M = salaire::MensuelPlein(m, dIndice, s.dSalarie_AnnuelPlein);
-  s.dSalaire_MensuelPleinINTN = M * (s.dCoefficient_IATN + s.dCoefficient_INTN);
+  dPlein = M * dCoefficients;
   return dIndice;
 }
 
@@ -28,10 +30,10 @@ int NumeroHoraire(const std::string& sCodeRubrique) {
 
 }  // namespace
 
-void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(
-    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
-  VarCalculSalarie& s = InfosSalaries;
-  const double dIndice = IndiceDesFormes(*this, s);
+void salaire::RubriqueHebdoMultiple(MoteurCalcul& m, VarCalculSalarie& s,
+                                    SalarieCalculRubrique& Rubrique, double dCoefficients,
+                                    const Quart& cible) {
+  const double dIndice = IndiceDesFormes(m, s, dCoefficients, cible.dPlein);
 
   const std::string n = std::to_string(NumeroHoraire(Rubrique.sCodeRubrique));
   Recordset& rs = Source(s.RsHeuresHebdoMultiples, "RsHeuresHebdoMultiples");
@@ -46,22 +48,30 @@ void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(
     W = vHeures.Nombre() / 35;
   }
 
-  const double V = J * (s.dSalaire_MensuelPleinINTN * W) / 30;
-  s.dSalaire_MensuelReelINTN = s.dSalaire_MensuelReelINTN + V;
-  s.dSalaire_MensuelINTN = s.dSalaire_MensuelINTN + V;
+  const double V = J * (cible.dPlein * W) / 30;
+  cible.dReel = cible.dReel + V;
+  cible.dMensuel = cible.dMensuel + V;
 
   Rubrique.sDesignation = sDesignation;
-  Rubrique.dBase = s.dSalaire_MensuelPleinINTN;
+  Rubrique.dBase = cible.dPlein;
   Rubrique.dTauxSalarial = dIndice;
   Rubrique.dMontantSalarial = V;
   salaire::SansPartPatronale(Rubrique);
+}
+
+void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple(
+    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique) {
+  VarCalculSalarie& s = InfosSalaries;
+  salaire::RubriqueHebdoMultiple(*this, s, Rubrique, s.dCoefficient_IATN + s.dCoefficient_INTN,
+                                 salaire::INTN(s));
 }
 
 void MethodeCalculG_Nouv::CalculRubrique_Traitement_Indiciaire_Journalier(
     VarCalculSalarie& InfosSalaries, const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto,
     SalarieCalculRubrique& Rubrique) {
   VarCalculSalarie& s = InfosSalaries;
-  IndiceDesFormes(*this, s);
+  IndiceDesFormes(*this, s, s.dCoefficient_IATN + s.dCoefficient_INTN,
+                  s.dSalaire_MensuelPleinINTN);
   // A day is seven hours of the 151.67 of a month.
   const double V = s.dSalaire_MensuelPleinINTN * 7 / 151.67;
   const RsRef aucun;

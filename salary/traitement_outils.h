@@ -3,7 +3,7 @@
 #ifndef ORVALIS_SALARY_TRAITEMENT_OUTILS_H_
 #define ORVALIS_SALARY_TRAITEMENT_OUTILS_H_
 
-#include "orvalis/MethodeCalculG_Nouv.h"
+#include "orvalis/MoteurCalcul.h"
 
 namespace orvalis::salaire {
 
@@ -21,18 +21,23 @@ double MensuelPlein(MoteurCalcul& m, double dIndice, double& dAnnuelPlein);
 // A twelfth of a yearly amount, kept from rounding up by a cent.
 double DouziemeArrondi(double dAnnuel);
 
-// One quadrant of the month (IATA, IATN, INTA or INTN) in the employee's record.
+// One cell of the month in the employee's record: a quadrant of the current engine (IATA,
+// IATN, INTA or INTN) or a cell of the historic one (old or new index), with its share of
+// the month, the treatment coefficient of its hours, the full year of its index, its day
+// counts and its salaries. The historic cells have no 90 % nor two-thirds days: 0 there.
 struct Quart {
   double& dCoefficient;
-  Int16& iPresence;
-  Int16& iDemiTraitement;
-  Int16& iCFA;
-  Int16& iCPA;
-  Int16& iDispoOffice;
-  Int16& iCongeFormation;
-  Int16& iCongeMaternite;
-  Int16& i90PourCent;
-  Int16& i2Tiers;
+  const double& dTraitement;
+  const double& dAnnuelPlein;
+  const Int16& iPresence;
+  const Int16& iDemiTraitement;
+  const Int16& iCFA;
+  const Int16& iCPA;
+  const Int16& iDispoOffice;
+  const Int16& iCongeFormation;
+  const Int16& iCongeMaternite;
+  const Int16& i90PourCent;
+  const Int16& i2Tiers;
   double& dPlein;
   double& dReel;
   double& dMensuel;
@@ -41,6 +46,22 @@ Quart IATA(VarCalculSalarie& s);
 Quart IATN(VarCalculSalarie& s);
 Quart INTA(VarCalculSalarie& s);
 Quart INTN(VarCalculSalarie& s);
+// The two cells of the historic month, both on dCoefficient_Traitement.
+Quart CelluleAncienne(VarCalculSalarie& s);
+Quart CelluleNouvelle(VarCalculSalarie& s);
+
+// The month's totals of days, as the engine keeps them: the _Total fields of the current
+// engine, the sum of the two cells in the historic one.
+struct TotauxDuMois {
+  Int16 iPresence;
+  Int16 iDemiTraitement;
+  Int16 iCFA;
+  Int16 iDispoOffice;
+  Int16 iCongeFormation;
+  Int16 iCongeMaternite;
+};
+TotauxDuMois TotauxQuatreQuarts(const VarCalculSalarie& s);
+TotauxDuMois TotauxDeuxCellules(const VarCalculSalarie& s);
 
 // The real salary of the quadrant for its days: (presence - (C x dAbsenceNS + iAbsents)) x
 // real salary / (C x 30). The caller checks that C is not 0.

@@ -45,7 +45,8 @@ echo "PostgreSQL, one process: $t_pg1 s" >&2
 psql "SELECT lignes FROM calculs WHERE mois = '202403'" | grep -qx "$lignes" ||
   { echo "PostgreSQL wrote another number of lines than SQLite" >&2; exit 1; }
 
-psql "DELETE FROM calculs WHERE mois = '202403'; VACUUM ANALYZE"
+psql "DELETE FROM calculs WHERE mois = '202403'"
+psql "VACUUM ANALYZE"
 deux() {
   "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" >/dev/null &
   local autre=$!

@@ -5,6 +5,8 @@
 // one row per engine class (the entry points); a member of the common base serves both.
 #include "tools/call_table.h"
 
+#include "absences/montant_brut_mois.h"
+
 namespace orvalis::tools {
 
 namespace appel {
@@ -152,8 +154,26 @@ const std::vector<Operation>& TableDesAppels() {
       Op("CalculNombreJourDetachement", &H::CalculNombreJourDetachement),
       Op("CalculNombreJourAutresAbsences", &H::CalculNombreJourAutresAbsences),
       Op("dRechercheIndMajEluPeriode", &H::dRechercheIndMajEluPeriode),
+      Op("dBaremeKilometrique", &H::dBaremeKilometrique),
       Op("CalculSalaireBaseHS", &H::CalculSalaireBaseHS),
       Op("CalculSalaireBaseHS_Periode", &H::CalculSalaireBaseHS_Periode),
+      // Strike, daily benefits, differential allowance and the officials' new method.
+      Op("CalculRubrique_Greve", &H::CalculRubrique_Greve),
+      Op("CalculRubrique_Indemnites_journalieres", &H::CalculRubrique_Indemnites_journalieres),
+      Op("Calcul_Indemnites_journalieres", &H::Calcul_Indemnites_journalieres),
+      Op("CalculIJ_Periode", &H::CalculIJ_Periode),
+      Op("CalculRubrique_Indemnite_Differentielle", &H::CalculRubrique_Indemnite_Differentielle),
+      Op("CalculRubrique_Retenue_a_la_source_NouvelleMethode",
+         &H::CalculRubrique_Retenue_a_la_source_NouvelleMethode),
+      Op("EnregistreDetailRetenueSource_NouvelleMethode",
+         &H::EnregistreDetailRetenueSource_NouvelleMethode),
+      Op("CalculRetenueSource_DonneesMandat", &H::CalculRetenueSource_DonneesMandat),
+      Op("CalculRetenueSource_Bareme", &H::CalculRetenueSource_Bareme),
+      Op("CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple",
+         &H::CalculRubrique_Traitement_Indiciaire_Hebdo_Multiple),
+      Op("CalculCoefficientDemiTraitement", &H::CalculCoefficientDemiTraitement),
+      Op("dCoefficientIndemnitaireDemiTraitement", &H::dCoefficientIndemnitaireDemiTraitement),
+      Op("dMontantProratiseSuivantDemiTraitement", &H::dMontantProratiseSuivantDemiTraitement),
 
       // ---- Other lookups of reference data (both engines) ------------------------------------
       Op("dRechercheValeur_VariableBis", &M::dRechercheValeur_VariableBis),
@@ -165,6 +185,8 @@ const std::vector<Operation>& TableDesAppels() {
       Op("dRechercheIndMinHistorique", &M::dRechercheIndMinHistorique),
       Op("dRechercheHistoriqueMois", &M::dRechercheHistoriqueMois),
       Op("dRechercheSmicHistorique", &M::dRechercheSmicHistorique),
+      // The gross of a month in the employee's pay history, one body for both engines.
+      Op("dMontantBrutMois", &dMontantBrutMois),
       // The officials' reference index and the allowance of an earlier month.
       Op("dRechercheIndMajElu", &N::dRechercheIndMajElu),
       Op("dRechercheIndMajEluPeriode", &N::dRechercheIndMajEluPeriode),

@@ -174,6 +174,67 @@ TEST(CallTableTest, TheHistoricEngineHasOnlyWhatItsClassHas) {
             "2 arguments, got 0\n");
 }
 
+// Exit 2, nothing on standard output, one line naming the place and the operation.
+TEST(CallTableTest, AnOperationOfTheCurrentClassOnlyIsUnknownToTheHistoricEngine) {
+  for (const char* op : {"CalculRubrique_Indemnite_Differentielle_Nouv",
+                         "CalculRubrique_Indemnite_Differentielle_Mayotte",
+                         "Calcul_Indemnites_Journalieres_NouvelleMethode", "dMtIJImposable",
+                         "RechercheValeursListeCumul", "CalculRubrique_Carence"}) {
+    const Issue i = Lance(R"({"engine": "MethodeCalculG", "steps": [{"set": {}}, {"call": ")" +
+                          std::string(op) + R"(", "args": []}]})");
+    EXPECT_EQ(i.statut, 2) << op;
+    EXPECT_EQ(i.sortie, "") << op;
+    EXPECT_EQ(i.erreurs,
+              "steps[1].call: MethodeCalculG has no operation '" + std::string(op) + "'\n");
+  }
+  // The same names are the current engine's.
+  EXPECT_EQ(Lance(R"({"steps": [{"call": "dMtIJImposable", "args": []}]})").erreurs,
+            "steps[0].args: dMtIJImposable(VarCalculSalarie) takes 1 argument, got 0\n");
+}
+
+// The historic class's own forms of the strike, daily benefits, differential allowance and
+// officials' new method are reached with its engine.
+TEST(CallTableTest, TheHistoricFormsAreReachedWithTheirEngine) {
+  const Json j = Sortie(R"({"engine": "MethodeCalculG", "gPeriodeEncours": "01/03/2024",
+      "sources": {"gRsCumuls": [{"CodeCumul": "BASE", "PartSalariale": 3000, "PartPatronale": 0}]},
+      "salarie": {"dGreveJours": 2, "dIndiceMajoreM": 150},
+      "steps": [
+        {"calc": "MONTANT FIXE", "RsVarSalaries": [],
+         "rubrique": {"sValeurBase": "TRAITEMENT DE BASE DU MOIS", "sCodeRubrique": "RETABSENCETR"}},
+        {"call": "CalculRubrique_Greve", "args": ["$salarie", "$rubrique", [], "N", null, null]},
+        {"call": "CalculRubrique_Indemnite_Differentielle", "args": ["$salarie", "$rubrique"]},
+        {"call": "EnregistreDetailRetenueSource_NouvelleMethode", "args": []},
+        {"call": "dMontantBrutMois",
+         "args": [{"columns": ["Mois", "MtBrut"], "rows": [["202402", 1234.565], ["202403", 2000]]},
+                  "15/02/2024"]}]})");
+  // The strike counters whatever the code: 2 x 3000 / 30.
+  EXPECT_EQ(j["steps"][1]["rubrique"]["dBase"].get<double>(), 3000.0);
+  EXPECT_EQ(j["steps"][1]["rubrique"]["dMontantSalarial"].get<double>(), -200.0);
+  // An index of 150, under the threshold of 200: nothing due.
+  EXPECT_EQ(j["steps"][2]["rubrique"]["dMontantSalarial"].get<double>(), 0.0);
+  EXPECT_EQ(j["steps"][3]["result"]["columns"].size(), 20u);
+  EXPECT_EQ(j["steps"][4]["result"].get<double>(), 1234.57);  // February's gross, to the cent
+}
+
+// gRsBaremeTauxPAS and gRsConstantesHistorique named with the historic engine: exit 2 and
+// the place named, at the top of the case or in a step; the current engine takes both.
+TEST(CaseRunnerTest, SourcesTheHistoricEngineHasNot) {
+  for (const char* nom : {"gRsBaremeTauxPAS", "gRsConstantesHistorique"}) {
+    const std::string sNom = nom;
+    Issue i = Lance(R"({"engine": "MethodeCalculG", "sources": {")" + sNom + R"(": null}})");
+    EXPECT_EQ(i.statut, 2);
+    EXPECT_EQ(i.sortie, "");
+    EXPECT_EQ(i.erreurs, "sources." + sNom + ": MethodeCalculG has no source '" + sNom + "'\n");
+    i = Lance(R"({"engine": "MethodeCalculG", "steps": [{"set": {}}, {"sources": {")" + sNom +
+              R"(": []}}]})");
+    EXPECT_EQ(i.statut, 2);
+    EXPECT_EQ(i.sortie, "");
+    EXPECT_EQ(i.erreurs,
+              "steps[1].sources." + sNom + ": MethodeCalculG has no source '" + sNom + "'\n");
+    EXPECT_EQ(Lance(R"({"sources": {")" + sNom + R"(": null}})").statut, 0);
+  }
+}
+
 TEST(CommandLineTest, VersionHelpAndUsage) {
   std::istringstream entree;
   std::ostringstream sortie, erreurs;
