@@ -5,12 +5,16 @@
 # throw-away server on this machine (scripts/serveur_pg_test.sh). Outside ctest: several
 # minutes.
 #
-#   scripts/bench_postgres.sh [BUILD_DIR [AGENTS [BATCH]]]    (build-rel, 100000, 500)
+#   scripts/bench_postgres.sh [BUILD_DIR [AGENTS [BATCH [JOBS]]]]   (build-rel, 100000, 500, 1)
+#
+# JOBS is --jobs of every run: 1 by default, so that the rows compare stores and processes,
+# one engine thread each.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build-rel}
 agents=${2:-100000}
 lot=${3:-500}
+jobs=${4:-1}
 orvalis=$PWD/$build/orvalis
 bindir=$(pg_config --bindir 2>/dev/null || echo /usr/lib/postgresql/15/bin)
 [ -x "$bindir/psql" ] || bindir=$(ls -d /usr/lib/postgresql/*/bin | tail -1)
@@ -36,11 +40,11 @@ echo "building the commune of $agents agents..." >&2
 "$orvalis" copie "$fichier" "$adresse" >/dev/null
 psql "VACUUM ANALYZE"
 
-t_sqlite=$(secondes "$orvalis" paie "$fichier" 2024-03)
+t_sqlite=$(secondes "$orvalis" paie "$fichier" 2024-03 --jobs "$jobs")
 lignes=$(sed -n 's/.* employees, \([0-9]*\) lines.*/\1/p' "$sortie")
 echo "SQLite, one process: $t_sqlite s" >&2
 
-t_pg1=$(secondes "$orvalis" paie "$adresse" 2024-03 --batch "$lot")
+t_pg1=$(secondes "$orvalis" paie "$adresse" 2024-03 --batch "$lot" --jobs "$jobs")
 echo "PostgreSQL, one process: $t_pg1 s" >&2
 psql "SELECT lignes FROM calculs WHERE mois = '202403'" | grep -qx "$lignes" ||
   { echo "PostgreSQL wrote another number of lines than SQLite" >&2; exit 1; }
@@ -48,9 +52,9 @@ psql "SELECT lignes FROM calculs WHERE mois = '202403'" | grep -qx "$lignes" ||
 psql "DELETE FROM calculs WHERE mois = '202403'"
 psql "VACUUM ANALYZE"
 deux() {
-  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" >/dev/null &
+  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" --jobs "$jobs" >/dev/null &
   local autre=$!
-  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot"
+  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" --jobs "$jobs"
   wait "$autre"
 }
 t_pg2=$(secondes deux)
