@@ -1,6 +1,7 @@
 #include "paie/postgres.h"
 
 #include <cstdlib>
+#include <fstream>
 #include <sstream>
 
 #include "paie/commande.h"
@@ -96,6 +97,32 @@ TEST_P(MotDePasseTest, JamaisAffiche) {
   EXPECT_EQ(Lance({"paie", "--store", sansMotDePasse, "2024-03", "--replace"}), 0) << erreurs_.str();
   unsetenv("PGPASSWORD");
   EXPECT_FALSE(Contient(sortie_.str() + erreurs_.str(), kMotDePasseTest));
+}
+
+// What the address leaves out comes from libpq's environment: PGHOST, PGDATABASE, PGUSER,
+// PGOPTIONS, or a service file.
+TEST_P(MotDePasseTest, AdresseParLEnvironnementEtParUnService) {
+  if (ServeurPgTest::Instance().Dossier().empty()) GTEST_SKIP() << "needs the test server's socket";
+  const std::string c = Commune(2);
+  const std::string dossier = ServeurPgTest::Instance().Dossier();
+  setenv("PGHOST", dossier.c_str(), 1);
+  setenv("PGDATABASE", "postgres", 1);
+  setenv("PGUSER", "postgres", 1);
+  setenv("PGOPTIONS", ("-c search_path=" + schema_).c_str(), 1);
+  EXPECT_EQ(Lance({"paie", "--store", "postgresql://", "2024-03"}), 0) << erreurs_.str();
+  EXPECT_TRUE(Contient(sortie_.str(), "month 2024-03: 2 employees"));
+  for (const char* v : {"PGHOST", "PGDATABASE", "PGUSER", "PGOPTIONS"}) unsetenv(v);
+
+  const std::string services = Chemin("services.conf");
+  {
+    std::ofstream f(services);
+    f << "[paie]\nhost=" << dossier << "\ndbname=postgres\nuser=postgres\noptions=-c search_path="
+      << schema_ << "\n";
+  }
+  setenv("PGSERVICEFILE", services.c_str(), 1);
+  EXPECT_EQ(Lance({"bulletins", "service=paie", "2024-03", Chemin("b")}), 0) << erreurs_.str();
+  unsetenv("PGSERVICEFILE");
+  EXPECT_TRUE(std::filesystem::exists(Chemin("b/index.html")));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 # minutes.
 #
 #   scripts/bench_postgres.sh [BUILD_DIR [AGENTS [BATCH [JOBS]]]]   (build-rel, 100000, 500, 1)
+#   ORVALIS=path/to/orvalis   another program than BUILD_DIR/orvalis; JOBS "" passes no --jobs
 #
 # JOBS is --jobs of every run: 1 by default, so that the rows compare stores and processes,
 # one engine thread each.
@@ -14,8 +15,9 @@ cd "$(dirname "$0")/.."
 build=${1:-build-rel}
 agents=${2:-100000}
 lot=${3:-500}
-jobs=${4:-1}
-orvalis=$PWD/$build/orvalis
+jobs=()
+[ "${4-1}" = "" ] || jobs=(--jobs "${4-1}")
+orvalis=${ORVALIS:-$PWD/$build/orvalis}
 bindir=$(pg_config --bindir 2>/dev/null || echo /usr/lib/postgresql/15/bin)
 [ -x "$bindir/psql" ] || bindir=$(ls -d /usr/lib/postgresql/*/bin | tail -1)
 
@@ -40,11 +42,11 @@ echo "building the commune of $agents agents..." >&2
 "$orvalis" copie "$fichier" "$adresse" >/dev/null
 psql "VACUUM ANALYZE"
 
-t_sqlite=$(secondes "$orvalis" paie "$fichier" 2024-03 --jobs "$jobs")
+t_sqlite=$(secondes "$orvalis" paie "$fichier" 2024-03 "${jobs[@]}")
 lignes=$(sed -n 's/.* employees, \([0-9]*\) lines.*/\1/p' "$sortie")
 echo "SQLite, one process: $t_sqlite s" >&2
 
-t_pg1=$(secondes "$orvalis" paie "$adresse" 2024-03 --batch "$lot" --jobs "$jobs")
+t_pg1=$(secondes "$orvalis" paie "$adresse" 2024-03 --batch "$lot" "${jobs[@]}")
 echo "PostgreSQL, one process: $t_pg1 s" >&2
 psql "SELECT lignes FROM calculs WHERE mois = '202403'" | grep -qx "$lignes" ||
   { echo "PostgreSQL wrote another number of lines than SQLite" >&2; exit 1; }
@@ -52,9 +54,9 @@ psql "SELECT lignes FROM calculs WHERE mois = '202403'" | grep -qx "$lignes" ||
 psql "DELETE FROM calculs WHERE mois = '202403'"
 psql "VACUUM ANALYZE"
 deux() {
-  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" --jobs "$jobs" >/dev/null &
+  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" "${jobs[@]}" >/dev/null &
   local autre=$!
-  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" --jobs "$jobs"
+  "$orvalis" paie "$adresse" 2024-03 --worker --batch "$lot" "${jobs[@]}"
   wait "$autre"
 }
 t_pg2=$(secondes deux)
