@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <regex>
+#include <unordered_map>
 
 #include <fmt/format.h>
 
@@ -119,17 +120,32 @@ class CurseurPg : public Curseur {
   int ligne_ = -1;
 };
 
-// Rows gathered and sent a group at a time, as one INSERT of many VALUES: one round trip
-// for hundreds of rows, every value still a bound parameter.
+// Rows gathered and sent a group at a time, one array a column:
+//   INSERT INTO t (a, b) SELECT * FROM unnest($1::integer[], $2::text[])
+// one statement and one round trip for thousands of rows, every value still a bound
+// parameter (an array's text, which the server reads as data, never as SQL).
 class InsertionPg final : public Curseur {
  public:
   InsertionPg(BasePg& base, const std::string& table, const std::vector<std::string>& colonnes)
-      : base_(base), n_(colonnes.size()), ligne_(colonnes.size()) {
-    entete_ = "INSERT INTO " + table + " (";
-    for (std::size_t i = 0; i < n_; ++i) entete_ += (i ? ", \"" : "\"") + colonnes[i] + "\"";
-    entete_ += ") VALUES ";
-    // PostgreSQL takes at most 65535 parameters a statement.
-    parGroupe_ = std::max<std::size_t>(1, std::min<std::size_t>(1000, 30000 / std::max<std::size_t>(1, n_)));
+      : base_(base), n_(colonnes.size()), ligne_(colonnes.size()), tableaux_(colonnes.size()) {
+    std::unordered_map<std::string, std::string> types;
+    {
+      Requete r = base.Prepare(
+          "SELECT a.attname, format_type(a.atttypid, a.atttypmod) FROM pg_attribute a "
+          "JOIN pg_class k ON k.oid = a.attrelid WHERE k.relname = ? "
+          "AND k.relnamespace = current_schema()::regnamespace AND a.attnum > 0 AND NOT a.attisdropped");
+      r.Lie(1, table);
+      while (r.Pas()) types[r.Texte(0)] = r.Texte(1);
+    }
+    std::string noms, tableaux;
+    for (std::size_t i = 0; i < n_; ++i) {
+      auto t = types.find(colonnes[i]);
+      if (t == types.end())
+        throw ErreurMagasin(fmt::format("table '{}' has no column '{}'", table, colonnes[i]));
+      noms += fmt::format("{}\"{}\"", i ? ", " : "", colonnes[i]);
+      tableaux += fmt::format("{}${}::{}[]", i ? ", " : "", i + 1, t->second);
+    }
+    sql_ = fmt::format("INSERT INTO {} ({}) SELECT * FROM unnest({})", table, noms, tableaux);
   }
 
   void Lie(int i, double v) override { Place(i) = fmt::format("{}", v); }
@@ -137,24 +153,33 @@ class InsertionPg final : public Curseur {
   void Lie(int i, const std::string& v) override { Place(i) = v; }
   void LieNull(int i) override { Place(i).reset(); }
   bool Pas() override {
-    tampon_.insert(tampon_.end(), ligne_.begin(), ligne_.end());
-    if (tampon_.size() / n_ >= parGroupe_) Termine();
+    for (std::size_t c = 0; c < n_; ++c) {
+      std::string& t = tableaux_[c];
+      t += lignes_ ? ',' : '{';
+      if (!ligne_[c]) {
+        t += "NULL";
+        continue;
+      }
+      t += '"';
+      for (char x : *ligne_[c]) {
+        if (x == '"' || x == '\\') t += '\\';
+        t += x;
+      }
+      t += '"';
+    }
+    if (++lignes_ >= kParGroupe) Termine();
     return false;
   }
   void Rearme() override { ligne_.assign(n_, std::nullopt); }
   void Termine() override {
-    const std::size_t lignes = tampon_.size() / n_;
-    if (lignes == 0) return;
-    std::string sql = entete_;
-    std::size_t k = 0;
-    for (std::size_t l = 0; l < lignes; ++l) {
-      sql += l ? ",(" : "(";
-      for (std::size_t c = 0; c < n_; ++c) sql += fmt::format("{}${}", c ? "," : "", ++k);
-      sql += ')';
-    }
+    if (lignes_ == 0) return;
     Parametres p;
-    p.swap(tampon_);
-    ExecuteAvec(base_, sql, p);
+    for (auto& t : tableaux_) {
+      p.emplace_back(std::move(t) + '}');
+      t.clear();
+    }
+    lignes_ = 0;
+    ExecuteAvec(base_, sql_, p);
   }
   int Colonnes() const override { return 0; }
   std::string NomColonne(int) const override { return {}; }
@@ -164,6 +189,8 @@ class InsertionPg final : public Curseur {
   std::string Texte(int) const override { return {}; }
 
  private:
+  static constexpr std::size_t kParGroupe = 20000;
+
   std::optional<std::string>& Place(int i) {
     if (i < 1 || static_cast<std::size_t>(i) > n_) throw ErreurMagasin("bind: no parameter " + std::to_string(i));
     return ligne_[static_cast<std::size_t>(i - 1)];
@@ -171,9 +198,10 @@ class InsertionPg final : public Curseur {
 
   BasePg& base_;
   std::size_t n_;
-  std::string entete_;
-  std::size_t parGroupe_ = 1;
-  Parametres ligne_, tampon_;
+  std::string sql_;
+  Parametres ligne_;
+  std::vector<std::string> tableaux_;
+  std::size_t lignes_ = 0;
 };
 
 }  // namespace
