@@ -37,8 +37,15 @@ secondes() {
   echo "$fin - $debut" | bc -l
 }
 
-echo "building the commune of $agents agents..." >&2
-"$orvalis" demo "$fichier" --agents "$agents" >/dev/null
+# ORVALIS_BENCH_COMMUNE=FILE keeps the commune made for a first run, for the next ones.
+modele=${ORVALIS_BENCH_COMMUNE:-}
+if [ -n "$modele" ] && [ -f "$modele" ]; then
+  cp "$modele" "$fichier"
+else
+  echo "building the commune of $agents agents..." >&2
+  "$orvalis" demo "$fichier" --agents "$agents" >/dev/null
+  if [ -n "$modele" ]; then cp "$fichier" "$modele"; fi
+fi
 "$orvalis" copie "$fichier" "$adresse" >/dev/null
 psql "VACUUM ANALYZE"
 

@@ -14,8 +14,9 @@
 # Exit status 3: the PostgreSQL binaries are absent (the tests that need them are skipped).
 set -euo pipefail
 
+# ORVALIS_PG_BINDIR names the folder of initdb and pg_ctl (and nothing else is looked at).
 bindir=${ORVALIS_PG_BINDIR:-$(pg_config --bindir 2>/dev/null || true)}
-if [ ! -x "$bindir/initdb" ]; then
+if [ -z "${ORVALIS_PG_BINDIR:-}" ] && [ ! -x "$bindir/initdb" ]; then
   for d in /usr/lib/postgresql/*/bin; do [ -x "$d/initdb" ] && bindir=$d; done
 fi
 
