@@ -2,7 +2,6 @@
 // salary elements: until that lands, these tests are skipped rather than faulting.
 #include <algorithm>
 
-#include "frame/en_attente.h"
 #include "generic/taux_test_util.h"
 
 namespace orvalis::taux_test {
@@ -13,11 +12,6 @@ namespace {
 class CompensationHausseCsg : public PaieTaux {
  protected:
   void SetUp() override {
-    const auto& attente = NomsEnAttente();
-    if (std::find(attente.begin(), attente.end(), "dMontantProratiseSuivantDemiTraitement") !=
-        attente.end()) {
-      GTEST_SKIP() << "the half-pay proration has not landed";
-    }
     m.gPeriodeEncours = "01/03/2018";
     Variable(vars, "R2017", 30000.0);
     Variable(vars, "C2017", 120.0);

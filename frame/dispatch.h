@@ -58,10 +58,9 @@ const Ligne<Appel>* TrouveLigne(std::span<const Ligne<Appel>> table, std::string
   return it == index.end() ? nullptr : it->second;
 }
 
-// Runs the row: a pending handler is a fault.
+// Runs the row.
 template <typename Appel>
 void Executer(const Ligne<Appel>& l, Appel& a) {
-  if (l.executer == nullptr) Faute(std::string("not yet available: ") + l.handler);
   l.executer(a);
 }
 
@@ -76,17 +75,13 @@ bool TestDetachement(const VarCalculSalarie& InfosSalaries, const SalarieCalculR
 // The model test under "MAINTIEN SALAIRE ...": the hourly model.
 bool TestModeleHoraire(const VarCalculSalarie& InfosSalaries);
 
-// The tables of both engines, for the entries and for the list of pending handlers.
+// The tables of both engines.
 class MethodeCalculG_Nouv;
 class MethodeCalculG;
 std::span<const Ligne<AppelPreparation<MethodeCalculG_Nouv>>> TablePreparationNouv();
 std::span<const Ligne<AppelCalcul<MethodeCalculG_Nouv>>> TableCalculNouv();
 std::span<const Ligne<AppelPreparation<MethodeCalculG>>> TablePreparationHisto();
 std::span<const Ligne<AppelCalcul<MethodeCalculG>>> TableCalculHisto();
-
-// Handler names of the rows still waiting for their handler, over the four tables, each
-// once, in table order.
-std::vector<std::string> HandlersEnAttente();
 
 }  // namespace orvalis
 

@@ -6,7 +6,6 @@
 
 #include <set>
 
-#include "frame/en_attente.h"
 #include "frame/records_compare.h"
 #include "orvalis/MethodeCalculG.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
@@ -135,24 +134,15 @@ TEST(DispatchTest, ModelTestIsTheExactHourlyModel) {
   }
 }
 
-TEST(DispatchTest, AHandlerStillPendingFaultsAndTheEntryGivesFalse) {
-  const auto& attente = NomsEnAttente();
-  const Ligne<AppelCalcul<MethodeCalculG_Nouv>>* pendante = nullptr;
-  for (const auto& l : TableCalculNouv())
-    for (const auto& n : attente)
-      if (n == l.handler && pendante == nullptr) pendante = &l;
-  if (pendante == nullptr) GTEST_SKIP() << "every handler has landed";
-  MethodeCalculG_Nouv m;
-  VarCalculSalarie s;
-  SalarieCalculRubrique r;
-  EXPECT_FALSE(m.Appel_Methode_Calcul_General(pendante->nom, s, r)) << pendante->nom;
-}
-
 TEST(HistoricDispatchTest, KnowsItsEightyTwoNamesAndTwelvePreparations) {
   EXPECT_EQ(TableCalculHisto().size(), 82u);
   EXPECT_EQ(TablePreparationHisto().size(), 12u);
   std::set<std::string> noms;
-  for (const auto& l : TableCalculHisto()) EXPECT_TRUE(noms.insert(l.nom).second) << l.nom;
+  for (const auto& l : TableCalculHisto()) {
+    EXPECT_TRUE(noms.insert(l.nom).second) << l.nom;
+    EXPECT_NE(l.executer, nullptr) << l.nom;
+  }
+  for (const auto& l : TablePreparationHisto()) EXPECT_NE(l.executer, nullptr) << l.nom;
   EXPECT_EQ(noms.count("CARENCE"), 0u);
   EXPECT_EQ(noms.count("BASE / TAUX"), 0u);
   for (const auto& l : TableCalculHisto()) {

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "frame/dispatch.h"
-#include "frame/en_attente.h"
 #include "orvalis/MethodeCalculG.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
@@ -62,19 +61,5 @@ void MethodeCalculG_Nouv::CalculRubrique_Prelevement_a_la_source(VarCalculSalari
                                                                  SalarieCalculRubrique&,
                                                                  const RsRef&) {}
 
-std::vector<std::string> HandlersEnAttente() {
-  std::vector<std::string> noms = NomsEnAttente();
-  auto ajoute = [&](const char* h) {
-    const std::string nom = std::string("MethodeCalculG::") + h;
-    for (const auto& n : noms)
-      if (n == nom) return;
-    noms.push_back(nom);
-  };
-  for (const auto& l : TablePreparationHisto())
-    if (l.executer == nullptr) ajoute(l.handler);
-  for (const auto& l : TableCalculHisto())
-    if (l.executer == nullptr) ajoute(l.handler);
-  return noms;
-}
 
 }  // namespace orvalis

@@ -141,26 +141,11 @@ void Sources(fuzz::Octets& in, Moteur& m) {
   }
 }
 
-// A name of the table: mostly one whose handler has landed (a pending one only faults),
-// now and then any row, or a name no row has.
+// A name of the table, now and then a name no row has.
 template <typename Table>
 std::string UnNom(fuzz::Octets& in, Table table) {
-  switch (in.Choix(16)) {
-    case 0: return UnTexte(in);
-    case 1: return table[in.Choix(table.size())].nom;
-    default: {
-      static const std::vector<const char*> prets = [&] {
-        const std::vector<std::string> attente = HandlersEnAttente();
-        std::vector<const char*> v;
-        for (const auto& l : table)
-          if (std::find(attente.begin(), attente.end(), l.handler) == attente.end())
-            v.push_back(l.nom);
-        return v;
-      }();
-      if (prets.empty()) return table[in.Choix(table.size())].nom;
-      return prets[in.Choix(prets.size())];
-    }
-  }
+  if (in.Choix(16) == 0) return UnTexte(in);
+  return table[in.Choix(table.size())].nom;
 }
 
 template <typename Moteur, typename TablePrep, typename TableCalc>

@@ -30,8 +30,6 @@ class CalculMoisTest : public DossierTest {
 };
 
 TEST_F(CalculMoisTest, TraitementIndice366EtCnracl) {
-  if (EnAttente("CalculRubrique_TraitementIndiciaireMois"))
-    GTEST_SKIP() << "the monthly treatment handler has not landed";
   const ResultatMois r = Mois(Commune(1), "2024-03");
   const Bulletin& b = r.bulletins.at(0);
   // 366 x 59.0734 / 12 = 1801.7387; - 0.0049 and rounded: 1801.73.

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <string>
 
-#include "frame/en_attente.h"
 #include "paie/commune_exemple.h"
 #include "paie/magasin.h"
 #include "paie/sqlite.h"
@@ -45,11 +44,6 @@ class DossierTest : public ::testing::Test {
     auto b = OuvreConnexion(magasin);
     Requete r = b->Prepare(sql);
     return r.Pas() ? r.Entier(0) : -1;
-  }
-
-  static bool EnAttente(const std::string& handler) {
-    const auto& n = NomsEnAttente();
-    return std::find(n.begin(), n.end(), handler) != n.end();
   }
 
  private:

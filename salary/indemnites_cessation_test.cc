@@ -1,7 +1,6 @@
 // The progressive end of activity and the end of activity, through the calculation entry.
 #include <algorithm>
 
-#include "frame/en_attente.h"
 #include "salary/salaire_test_outils.h"
 
 namespace orvalis::salaire_test {
@@ -17,12 +16,6 @@ class Cessation : public PaieSalaire {
     Fixe("Point", 59.0734);
     Fixe("IndMinRemuneration", 366.0);
     LigneDuHote();
-  }
-  // The proration of half pay is a line of its own; until it lands, the CPA amount can't be
-  // reached.
-  static bool ProratisationEnAttente() {
-    const auto& n = NomsEnAttente();
-    return std::find(n.begin(), n.end(), "dMontantProratiseSuivantDemiTraitement") != n.end();
   }
 };
 
@@ -40,7 +33,6 @@ TEST_F(Cessation, CpaSansJoursOuHorsModeleIndiciaire) {
 }
 
 TEST_F(Cessation, CpaAuProrataDuDemiTraitement) {
-  if (ProratisationEnAttente()) GTEST_SKIP() << "the proration of half pay has not landed";
   s.iNBJ_CPAINTA = 10;
   s.iNBJ_CPAINTN = 20;
   s.iNBJ_DemiTraitement_Total = 10;
