@@ -54,6 +54,18 @@ class ServeurPgTest {
     if (!dossier_.empty()) Script("stop " + dossier_);
   }
 
+  // scripts/serveur_pg_test.sh with `arguments`: its exit status, its output into `sortie`.
+  static int Script(const std::string& arguments, std::string* sortie = nullptr) {
+    const std::string commande = std::string(ORVALIS_SOURCE_DIR) + "/scripts/serveur_pg_test.sh " + arguments;
+    FILE* f = popen(commande.c_str(), "r");
+    if (f == nullptr) return -1;
+    char tampon[512];
+    while (std::fgets(tampon, sizeof tampon, f))
+      if (sortie) *sortie += tampon;
+    const int s = pclose(f);
+    return WIFEXITED(s) ? WEXITSTATUS(s) : -1;
+  }
+
  private:
   ServeurPgTest() {
     if (const char* e = std::getenv("ORVALIS_PG_TEST"); e && *e) {
@@ -66,17 +78,6 @@ class ServeurPgTest {
     if (statut == 3) absent_ = true;
     else if (statut != 0 || sortie.empty()) panne_ = "scripts/serveur_pg_test.sh start failed (status " + std::to_string(statut) + ")";
     else dossier_ = sortie;
-  }
-
-  static int Script(const std::string& arguments, std::string* sortie = nullptr) {
-    const std::string commande = std::string(ORVALIS_SOURCE_DIR) + "/scripts/serveur_pg_test.sh " + arguments;
-    FILE* f = popen(commande.c_str(), "r");
-    if (f == nullptr) return -1;
-    char tampon[512];
-    while (std::fgets(tampon, sizeof tampon, f))
-      if (sortie) *sortie += tampon;
-    const int s = pclose(f);
-    return WIFEXITED(s) ? WEXITSTATUS(s) : -1;
   }
 
   bool absent_ = false;

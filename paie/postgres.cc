@@ -317,8 +317,9 @@ void BasePg::Echec(const std::string& quoi, const void* resultat) {
   m = SansMotDePasse(quoi + ": " + SansFinDeLigne(m), adresse_);
   if (PQstatus(conn_) != CONNECTION_OK) throw ErreurConnexion(m);
   const char* etat = r ? PQresultErrorField(r, PG_DIAG_SQLSTATE) : nullptr;
+  // No SQLSTATE: libpq's own failure (the server closed the connection, no result at all).
   // Class 08: the connection failed; 57P: the server is going down or ended this session.
-  if (etat && (std::string(etat).rfind("08", 0) == 0 || std::string(etat).rfind("57P", 0) == 0))
+  if (etat == nullptr || std::string(etat).rfind("08", 0) == 0 || std::string(etat).rfind("57P", 0) == 0)
     throw ErreurConnexion(m);
   throw ErreurMagasin(m);
 }

@@ -157,6 +157,8 @@ class Travailleur {
       } catch (const ErreurConnexion& e) {
         base_->Annule();
         ++bilan_.reprises;
+        // A loss that comes back on every try is not the network's: stop rather than loop.
+        if (++pertesDeSuite_ > kReconnexions) throw;
         if (o_.journal)
           fmt::print(*o_.journal,
                      "orvalis: {}: the connection was lost ({}); the batch under way returns to the "
@@ -205,6 +207,7 @@ class Travailleur {
       if (pause_.count() > 0) std::this_thread::sleep_for(pause_);
       EcritLot(*lot);
       base_->Valide();
+      pertesDeSuite_ = 0;
     } catch (const ErreurConnexion&) {
       throw;
     } catch (...) {
@@ -252,6 +255,7 @@ class Travailleur {
   std::chrono::milliseconds pause_;
   std::unique_ptr<BasePg> base_;
   BilanTravail bilan_;
+  int pertesDeSuite_ = 0;  // connections lost since the last batch written
 };
 
 }  // namespace

@@ -294,6 +294,37 @@ TEST_P(TravailTest, ServeurPerduAuMilieuDUnLot) {
   EXPECT_EQ(Nombre(c, "SELECT lignes FROM calculs"), Nombre(c, "SELECT count(*) FROM lignes"));
 }
 
+// The server gone for good in the middle of a batch: the worker tries again, then stops with
+// a clear error; the month stays unpublished, nothing half written.
+TEST_P(TravailTest, ServeurArreteAuMilieuDUnLot) {
+  if (ServeurPgTest::Instance().Dossier().empty()) GTEST_SKIP() << "needs a server of its own";
+  std::string dossier;
+  ASSERT_EQ(ServeurPgTest::Script("start " + std::to_string(getpid()), &dossier), 0);
+  while (!dossier.empty() && dossier.back() == '\n') dossier.pop_back();
+  const std::string c = "host=" + dossier + " dbname=postgres user=postgres";
+  {
+    const std::string fichier = DossierTest::Commune(6);
+    auto m = OuvreMagasinPostgres(c);
+    Base source(fichier, false);
+    CopieMagasin(source, m->Sql());
+  }
+  Processus a = Lance({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 500);
+  const bool enLot = Attends([&] {
+    return Nombre(c, "SELECT count(*) FROM pg_stat_activity WHERE application_name LIKE '%:" +
+                         std::to_string(a.pid) + "' AND state = 'idle in transaction' "
+                         "AND clock_timestamp() - state_change > interval '40 ms'") > 0;
+  });
+  ServeurPgTest::Script("stop " + dossier);
+  ASSERT_TRUE(enLot);
+  EXPECT_EQ(a.Attend(), 1);
+  const std::string erreurs = Processus::Lit(a.erreurs);
+  EXPECT_TRUE(Contient(erreurs, "orvalis: 2024-03: the connection was lost ("));
+  EXPECT_TRUE(Contient(erreurs, "orvalis: 2024-03: the server cannot be reached again after the "
+                                "connection was lost ("));
+  EXPECT_TRUE(Contient(erreurs, "the month is not published, its unwritten batches are left for "
+                                "another worker (--worker)"));
+}
+
 // The same month (and the next, which reads its totals) run by one process on SQLite, by one
 // process on PostgreSQL, and by three workers on PostgreSQL one of which is killed in the
 // middle of a batch: the same payslips to the cent.
