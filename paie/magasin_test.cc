@@ -1,18 +1,18 @@
 #include "paie/magasin.h"
 
 #include "paie/calcul_mois.h"
-#include "paie/paie_test_outils.h"
+#include "paie/pg_test_outils.h"
 #include "paie/schema.h"
 
 namespace orvalis::paie {
 namespace {
 
-class MagasinTest : public DossierTest {
+class MagasinTest : public MoteurTest {
  protected:
   // The message of the store's refusal to load the month.
-  static std::string Refus(const std::string& chemin) {
+  static std::string Refus(const std::string& magasin) {
     try {
-      OuvreMagasinSqlite(chemin)->ChargeMois("2024-03");
+      OuvreMagasin(magasin)->ChargeMois("2024-03");
     } catch (const ErreurMagasin& e) {
       return e.what();
     }
@@ -20,53 +20,81 @@ class MagasinTest : public DossierTest {
   }
 };
 
-TEST_F(MagasinTest, SchemaCreeEtVersionne) {
-  const std::string c = Chemin("neuf.db");
-  OuvreMagasinSqlite(c, true);
-  EXPECT_EQ(Nombre(c, "PRAGMA user_version"), kVersionSchema);
-  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM sqlite_master WHERE name = 'lignes'"), 1);
+INSTANTIATE_TEST_SUITE_P(Moteurs, MagasinTest, ::testing::Values(Moteur::SQLite, Moteur::PostgreSQL),
+                         NomMoteur);
+
+TEST_P(MagasinTest, SchemaCreeEtVersionne) {
+  const std::string c = Vide();
+  OuvreMagasin(c, true);
+  EXPECT_EQ(VersionSchema(c), kVersionSchema);
+  EXPECT_TRUE(OuvreConnexion(c)->TableExiste("lignes"));
+  EXPECT_TRUE(OuvreConnexion(c)->TableExiste("lots"));
   // Opened again, it is left as it is.
-  OuvreMagasinSqlite(c);
-  EXPECT_EQ(Nombre(c, "PRAGMA user_version"), kVersionSchema);
+  OuvreMagasin(c);
+  EXPECT_EQ(VersionSchema(c), kVersionSchema);
 }
 
-TEST_F(MagasinTest, AbsentSansCreationEstRefuse) {
-  EXPECT_THROW(OuvreMagasinSqlite(Chemin("absent.db")), ErreurMagasin);
+// A store of version 1 (before the workers) is brought to version 2 and keeps its month.
+TEST_P(MagasinTest, MonteeDeVersionUnADeux) {
+  const std::string c = Vide();
+  {
+    auto b = OuvreConnexion(c, true);
+    b->Execute(EtapeSchema(0, Pg()));
+    b->Execute(Pg() ? "CREATE TABLE version_schema (version INTEGER NOT NULL); "
+                      "INSERT INTO version_schema VALUES (1)"
+                    : "PRAGMA user_version = 1");
+    b->Execute("INSERT INTO calculs VALUES ('202402', '2024-03-01T00:00:00Z', 'v1', 0, 0, 0, 0.5)");
+  }
+  EXPECT_EQ(VersionSchema(c), 1);
+  auto m = OuvreMagasin(c);
+  EXPECT_EQ(VersionSchema(c), 2);
+  // The month written by the earlier version counts as published.
+  EXPECT_TRUE(m->MoisCalcule("2024-02"));
+  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM lots"), 0);
 }
 
-TEST_F(MagasinTest, VersionPlusRecenteRefusee) {
-  const std::string c = Chemin("futur.db");
-  OuvreMagasinSqlite(c, true);
-  Sql(c, "PRAGMA user_version = 99");
+TEST_P(MagasinTest, AbsentSansCreationEstRefuse) {
+  const std::string absent = Pg() ? ServeurPgTest::Instance().Admin() + " dbname=absente" : Chemin("absent.db");
   try {
-    OuvreMagasinSqlite(c);
+    OuvreMagasin(absent);
     FAIL();
   } catch (const ErreurMagasin& e) {
-    EXPECT_TRUE(Contient(e.what(), "schema version 99 is newer"));
+    EXPECT_TRUE(Contient(e.what(), Pg() ? "database \"absente\" does not exist" : "cannot open"));
   }
 }
 
-TEST_F(MagasinTest, FichierQuiNEstPasUnMagasin) {
-  const std::string c = Chemin("autre.db");
-  {
-    Base b(c, true);
-    b.Execute("CREATE TABLE t (x)");
-  }
+TEST_P(MagasinTest, VersionPlusRecenteRefusee) {
+  const std::string c = Vide();
+  OuvreMagasin(c, true);
+  FixeVersion(c, 99);
   try {
-    OuvreMagasinSqlite(c);
+    OuvreMagasin(c);
+    FAIL();
+  } catch (const ErreurMagasin& e) {
+    EXPECT_TRUE(Contient(e.what(), "schema version 99 is newer than this program's (2)"));
+  }
+  EXPECT_EQ(VersionSchema(c), 99);
+}
+
+TEST_P(MagasinTest, FichierQuiNEstPasUnMagasin) {
+  const std::string c = Vide();
+  OuvreConnexion(c, true)->Execute("CREATE TABLE t (x INTEGER)");
+  try {
+    OuvreMagasin(c);
     FAIL();
   } catch (const ErreurMagasin& e) {
     EXPECT_TRUE(Contient(e.what(), "not an Orvalis store"));
   }
+  EXPECT_FALSE(OuvreConnexion(c)->TableExiste("lignes"));
 }
 
-TEST_F(MagasinTest, TableManquante) {
+TEST_P(MagasinTest, TableManquante) {
   const std::string c = Commune(1);
   Sql(c, "DROP TABLE taux");
   EXPECT_EQ(Refus(c), "table 'taux' is missing");
 }
 
-TEST_F(MagasinTest, MauvaisTypeDansUneSituation) {
+TEST_P(MagasinTest, MauvaisTypeDansUneSituation) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE situations SET valeur = 'quatre cents' WHERE champ = 'dIndiceMajoreM'");
   const long long ligne = Nombre(c, "SELECT rowid FROM situations WHERE champ = 'dIndiceMajoreM'");
@@ -74,33 +102,53 @@ TEST_F(MagasinTest, MauvaisTypeDansUneSituation) {
                           ", column 'valeur': dIndiceMajoreM needs a number, got the text 'quatre cents'");
 }
 
-TEST_F(MagasinTest, EntierSeizeBitsHorsLimites) {
+TEST_P(MagasinTest, EntierSeizeBitsHorsLimites) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE situations SET valeur = 32768 WHERE champ = 'iEnfant_ACharge'");
-  EXPECT_TRUE(Contient(Refus(c), "iEnfant_ACharge needs a 16-bit integer, got the integer 32768"));
+  // PostgreSQL keeps a situation's value as a text.
+  EXPECT_TRUE(Contient(Refus(c), Pg() ? "iEnfant_ACharge needs a 16-bit integer, got the text '32768'"
+                                      : "iEnfant_ACharge needs a 16-bit integer, got the integer 32768"));
 }
 
-TEST_F(MagasinTest, ValeurNonNumeriqueDansLesTaux) {
+// A number written as a text is read as the number; a text that is not wholly one is refused.
+TEST_P(MagasinTest, NombreEcritEnTexte) {
   const std::string c = Commune(1);
+  Sql(c, "UPDATE situations SET valeur = '400' WHERE champ = 'dIndiceMajoreM'");
+  DonneesMois d = OuvreMagasin(c)->ChargeMois("2024-03");
+  VarCalculSalarie v;
+  tools::Applique(v, d.salaries.at(0).champs);
+  EXPECT_DOUBLE_EQ(v.dIndiceMajoreM, 400);
+  Sql(c, "UPDATE situations SET valeur = '400 ' WHERE champ = 'dIndiceMajoreM'");
+  EXPECT_TRUE(Contient(Refus(c), "dIndiceMajoreM needs a number, got the text '400 '"));
+}
+
+TEST_P(MagasinTest, ValeurNonNumeriqueDansLesTaux) {
+  const std::string c = Commune(1);
+  if (Pg()) {
+    // The column is typed: the server refuses the text itself, and the store stays whole.
+    EXPECT_THROW(Sql(c, "UPDATE taux SET PartSalariale = 'onze' WHERE CodeTaux = 'CNRACL'"), ErreurMagasin);
+    EXPECT_EQ(Refus(c), "(no error)");
+    return;
+  }
   Sql(c, "UPDATE taux SET PartSalariale = 'onze' WHERE CodeTaux = 'CNRACL'");
   EXPECT_TRUE(Contient(Refus(c), "column 'PartSalariale': expected a number, got the text 'onze'"));
   EXPECT_TRUE(Contient(Refus(c), "table 'taux', row "));
 }
 
-TEST_F(MagasinTest, MethodeInconnue) {
+TEST_P(MagasinTest, MethodeInconnue) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE rubriques SET methode = 'TRAITEMENT INDICIAIRE' WHERE lIdRubrique = 100");
   EXPECT_EQ(Refus(c), "table 'rubriques', lIdRubrique 100, column 'methode': unknown method "
                       "'TRAITEMENT INDICIAIRE'");
 }
 
-TEST_F(MagasinTest, PreparationInconnue) {
+TEST_P(MagasinTest, PreparationInconnue) {
   const std::string c = Commune(1);
   Sql(c, "INSERT INTO preparations VALUES (9, 'NBRE_JOURS')");
   EXPECT_EQ(Refus(c), "table 'preparations', ordre 9, column 'methode': unknown preparation 'NBRE_JOURS'");
 }
 
-TEST_F(MagasinTest, ChampInconnu) {
+TEST_P(MagasinTest, ChampInconnu) {
   const std::string c = Commune(1);
   Sql(c, "INSERT INTO situations VALUES (1001, '202401', 'dIndiceMajore', 400)");
   const long long ligne = Nombre(c, "SELECT rowid FROM situations WHERE champ = 'dIndiceMajore'");
@@ -108,32 +156,32 @@ TEST_F(MagasinTest, ChampInconnu) {
                           ", column 'champ': VarCalculSalarie has no field 'dIndiceMajore'");
 }
 
-TEST_F(MagasinTest, ColonneDuPlanQuiNEstPasUnChamp) {
+TEST_P(MagasinTest, ColonneDuPlanQuiNEstPasUnChamp) {
   const std::string c = Commune(1);
   Sql(c, "ALTER TABLE rubriques ADD COLUMN sValeurBas TEXT");
   EXPECT_TRUE(Contient(Refus(c), "column 'sValeurBas': SalarieCalculRubrique has no field 'sValeurBas'"));
 }
 
-TEST_F(MagasinTest, CumulInconnuDansLesAlimentations) {
+TEST_P(MagasinTest, CumulInconnuDansLesAlimentations) {
   const std::string c = Commune(1);
-  Sql(c, "PRAGMA foreign_keys = OFF; INSERT INTO rubrique_cumuls VALUES (100, 'BRUTT', 'SALARIAL', 'S', 1)");
+  Sql(c, SansClesEtrangeres() + "INSERT INTO rubrique_cumuls VALUES (100, 'BRUTT', 'SALARIAL', 'S', 1)");
   EXPECT_TRUE(Contient(Refus(c), "table 'rubrique_cumuls', row "));
   EXPECT_TRUE(Contient(Refus(c), "column 'CodeCumul': no total 'BRUTT'"));
 }
 
-TEST_F(MagasinTest, PlafondSurUnCumulInconnu) {
+TEST_P(MagasinTest, PlafondSurUnCumulInconnu) {
   const std::string c = Commune(1);
-  Sql(c, "PRAGMA foreign_keys = OFF; UPDATE cumuls SET plafond_de = 'TRAITEMENT' WHERE CodeCumul = 'ASSRAFP'");
+  Sql(c, SansClesEtrangeres() + "UPDATE cumuls SET plafond_de = 'TRAITEMENT' WHERE CodeCumul = 'ASSRAFP'");
   const long long id = Nombre(c, "SELECT IdCumul FROM cumuls WHERE CodeCumul = 'ASSRAFP'");
   EXPECT_EQ(Refus(c), "table 'cumuls', IdCumul " + std::to_string(id) +
                           ", column 'plafond_de': no total 'TRAITEMENT'");
 }
 
-TEST_F(MagasinTest, ValeursEnVigueurAuMois) {
+TEST_P(MagasinTest, ValeursEnVigueurAuMois) {
   const std::string c = Commune(1);
   // The point changes in July: March reads the January value, its history both.
   Sql(c, "INSERT INTO valeurs_fixes VALUES ('Point', '202407', 60.0, 'essai')");
-  auto m = OuvreMagasinSqlite(c);
+  auto m = OuvreMagasin(c);
   DonneesMois mars = m->ChargeMois("2024-03");
   EXPECT_DOUBLE_EQ(mars.constantesFixes->Field("Point").Nombre(), 59.0734);
   DonneesMois aout = m->ChargeMois("2024-08");
@@ -145,9 +193,9 @@ TEST_F(MagasinTest, ValeursEnVigueurAuMois) {
   EXPECT_TRUE(aout.constantesFixesHistorique->Field("Point").EstNull());
 }
 
-TEST_F(MagasinTest, MoisDejaCalculeRemplaceSeulementSurDemande) {
+TEST_P(MagasinTest, MoisDejaCalculeRemplaceSeulementSurDemande) {
   const std::string c = Commune(2);
-  auto m = OuvreMagasinSqlite(c);
+  auto m = OuvreMagasin(c);
   const ResultatMois r = CalculeMois(m->ChargeMois("2024-03"));
   m->EcritMois(r, false);
   const long long lignes = Nombre(c, "SELECT count(*) FROM lignes WHERE mois = '202403'");
@@ -160,12 +208,27 @@ TEST_F(MagasinTest, MoisDejaCalculeRemplaceSeulementSurDemande) {
   EXPECT_EQ(Nombre(c, "SELECT count(*) FROM bulletins"), 2);
 }
 
-TEST_F(MagasinTest, PisteDAuditDesLignes) {
+// A month whose batches are still being written is not done: not read back, and the next
+// month does not take its totals.
+TEST_P(MagasinTest, MoisNonPublieNEstPasLu) {
   const std::string c = Commune(1);
-  auto m = OuvreMagasinSqlite(c);
+  auto m = OuvreMagasin(c);
   m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
-  Base b(c, false);
-  Requete r = b.Prepare(
+  EXPECT_EQ(m->ChargeMois("2024-04").salaries.at(0).cumulsHisto->RecordCount(),
+            Nombre(c, "SELECT count(*) FROM cumuls"));
+  Sql(c, "UPDATE calculs SET publie = 0");
+  EXPECT_FALSE(m->MoisCalcule("2024-03"));
+  EXPECT_THROW(m->LitMois("2024-03"), ErreurMagasin);
+  EXPECT_EQ(m->ChargeMois("2024-04").salaries.at(0).cumulsHisto->RecordCount(), 0);
+  EXPECT_EQ(m->ChargeMois("2024-04").salaries.at(0).historique->RecordCount(), 0);
+}
+
+TEST_P(MagasinTest, PisteDAuditDesLignes) {
+  const std::string c = Commune(1);
+  auto m = OuvreMagasin(c);
+  m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
+  auto b = OuvreConnexion(c);
+  Requete r = b->Prepare(
       "SELECT methode, sValeurBase, sCoeffBase, sValeurTauxSalarial, dTauxSalarial, dBase "
       "FROM lignes WHERE sCodeRubrique = 'CSGDED'");
   ASSERT_TRUE(r.Pas());
@@ -174,6 +237,39 @@ TEST_F(MagasinTest, PisteDAuditDesLignes) {
   EXPECT_EQ(r.Texte(2), "UNE CONSTANTE");
   EXPECT_EQ(r.Texte(3), "TAUX DE COTISATION DE L'ORGANISME");
   EXPECT_DOUBLE_EQ(r.Reel(4), 6.8);
+}
+
+// Names with quotes, semicolons and non-Latin letters in every text column of an employee
+// and of a pay line: kept as written, through the month and back.
+TEST_P(MagasinTest, TextesPiegesGardesTelsQuels) {
+  const std::string c = Commune(1);
+  const std::string nom = "O'Brien\"; DROP TABLE lignes; --";
+  const std::string prenom = "Zoë Ελένη 李小龍 Юлия";
+  const std::string designation = "Traitement ' OR '1'='1 ; 工资";
+  {
+    auto b = OuvreConnexion(c);
+    Requete u = b->Prepare(
+        "UPDATE salaries SET nom = ?, prenom = ?, emploi = ?, adresse = ?, sMatricule = ?");
+    u.Lie(1, nom).Lie(2, prenom).Lie(3, designation).Lie(4, nom + prenom).Lie(5, "M'1; --" + prenom).Execute();
+    Requete r = b->Prepare("UPDATE rubriques SET sDesignation = ? WHERE lIdRubrique = 100");
+    r.Lie(1, designation).Execute();
+    Requete e = b->Prepare("UPDATE employeur SET nom = ?, adresse = ?");
+    e.Lie(1, prenom).Lie(2, nom).Execute();
+  }
+  auto m = OuvreMagasin(c);
+  m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
+  const ResultatMois r = m->LitMois("2024-03");
+  ASSERT_EQ(r.bulletins.size(), 1u);
+  EXPECT_EQ(r.employeur.nom, prenom);
+  EXPECT_EQ(r.employeur.adresse, nom);
+  EXPECT_EQ(r.bulletins[0].nom, nom);
+  EXPECT_EQ(r.bulletins[0].prenom, prenom);
+  EXPECT_EQ(r.bulletins[0].emploi, designation);
+  EXPECT_EQ(r.bulletins[0].adresse, nom + prenom);
+  EXPECT_EQ(r.bulletins[0].sMatricule, "M'1; --" + prenom);
+  ASSERT_NE(Ligne(r.bulletins[0], "TRAITIND"), nullptr);
+  EXPECT_EQ(Ligne(r.bulletins[0], "TRAITIND")->sDesignation, designation);
+  EXPECT_TRUE(OuvreConnexion(c)->TableExiste("lignes"));
 }
 
 TEST(CleMoisTest, Formes) {

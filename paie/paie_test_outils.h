@@ -36,13 +36,13 @@ class DossierTest : public ::testing::Test {
     return c;
   }
 
-  static void Sql(const std::string& chemin, const std::string& sql) {
-    Base b(chemin, false);
-    b.Execute(sql);
+  // A store's file or PostgreSQL address.
+  static void Sql(const std::string& magasin, const std::string& sql) {
+    OuvreConnexion(magasin)->Execute(sql);
   }
-  static long long Nombre(const std::string& chemin, const std::string& sql) {
-    Base b(chemin, false);
-    Requete r = b.Prepare(sql);
+  static long long Nombre(const std::string& magasin, const std::string& sql) {
+    auto b = OuvreConnexion(magasin);
+    Requete r = b->Prepare(sql);
     return r.Pas() ? r.Entier(0) : -1;
   }
 

@@ -1,7 +1,5 @@
 #include "paie/sqlite.h"
 
-#include <cmath>
-
 namespace orvalis::paie {
 
 namespace {
@@ -9,6 +7,61 @@ namespace {
 [[noreturn]] void Echec(sqlite3* db, const std::string& quoi) {
   throw ErreurMagasin(quoi + ": " + (db ? sqlite3_errmsg(db) : "out of memory"));
 }
+
+class CurseurSqlite final : public Curseur {
+ public:
+  CurseurSqlite(sqlite3* db, const std::string& sql) : db_(db) {
+    if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st_, nullptr) != SQLITE_OK) Echec(db, "SQL");
+  }
+  ~CurseurSqlite() override { sqlite3_finalize(st_); }
+  CurseurSqlite(const CurseurSqlite&) = delete;
+  CurseurSqlite& operator=(const CurseurSqlite&) = delete;
+
+  void Lie(int i, double v) override {
+    if (sqlite3_bind_double(st_, i, v) != SQLITE_OK) Echec(db_, "bind");
+  }
+  void Lie(int i, long long v) override {
+    if (sqlite3_bind_int64(st_, i, v) != SQLITE_OK) Echec(db_, "bind");
+  }
+  void Lie(int i, const std::string& v) override {
+    if (sqlite3_bind_text(st_, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT) != SQLITE_OK)
+      Echec(db_, "bind");
+  }
+  void LieNull(int i) override {
+    if (sqlite3_bind_null(st_, i) != SQLITE_OK) Echec(db_, "bind");
+  }
+  bool Pas() override {
+    const int rc = sqlite3_step(st_);
+    if (rc == SQLITE_ROW) return true;
+    if (rc == SQLITE_DONE) return false;
+    Echec(db_, "SQL");
+  }
+  void Rearme() override {
+    sqlite3_reset(st_);
+    sqlite3_clear_bindings(st_);
+  }
+  int Colonnes() const override { return sqlite3_column_count(st_); }
+  std::string NomColonne(int i) const override { return sqlite3_column_name(st_, i); }
+  TypeCellule Type(int i) const override {
+    switch (sqlite3_column_type(st_, i)) {
+      case SQLITE_NULL: return TypeCellule::Null;
+      case SQLITE_INTEGER: return TypeCellule::Entier;
+      case SQLITE_FLOAT: return TypeCellule::Reel;
+      case SQLITE_TEXT: return TypeCellule::Texte;
+      default: return TypeCellule::Autre;
+    }
+  }
+  long long Entier(int i) const override { return sqlite3_column_int64(st_, i); }
+  double Reel(int i) const override { return sqlite3_column_double(st_, i); }
+  std::string Texte(int i) const override {
+    const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(st_, i));
+    return p ? std::string(p, static_cast<std::size_t>(sqlite3_column_bytes(st_, i))) : std::string();
+  }
+
+ private:
+  sqlite3_stmt* st_ = nullptr;
+  sqlite3* db_;
+};
 
 }  // namespace
 
@@ -35,7 +88,7 @@ void Base::Execute(const std::string& sql) {
   }
 }
 
-Requete Base::Prepare(const std::string& sql) { return Requete(db_, sql); }
+Requete Base::Prepare(const std::string& sql) { return Requete(std::make_unique<CurseurSqlite>(db_, sql)); }
 
 bool Base::TableExiste(const std::string& nom) {
   Requete r = Prepare("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?");
@@ -43,76 +96,12 @@ bool Base::TableExiste(const std::string& nom) {
   return r.Pas();
 }
 
-Requete::Requete(sqlite3* db, const std::string& sql) : db_(db) {
-  if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st_, nullptr) != SQLITE_OK) Echec(db, "SQL");
-}
-
-Requete::~Requete() { sqlite3_finalize(st_); }
-
-Requete& Requete::Lie(int i, double v) {
-  if (sqlite3_bind_double(st_, i, v) != SQLITE_OK) Echec(db_, "bind");
-  return *this;
-}
-Requete& Requete::Lie(int i, long long v) {
-  if (sqlite3_bind_int64(st_, i, v) != SQLITE_OK) Echec(db_, "bind");
-  return *this;
-}
-Requete& Requete::Lie(int i, const std::string& v) {
-  if (sqlite3_bind_text(st_, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT) != SQLITE_OK)
-    Echec(db_, "bind");
-  return *this;
-}
-Requete& Requete::LieNull(int i) {
-  if (sqlite3_bind_null(st_, i) != SQLITE_OK) Echec(db_, "bind");
-  return *this;
-}
-Requete& Requete::Lie(int i, const Value& v) {
-  if (v.EstNull()) return LieNull(i);
-  if (v.EstTexte()) return Lie(i, v.Chaine());
-  if (v.EstBooleen()) return Lie(i, v.Booleen() ? 1 : 0);
-  // Whole numbers are stored as integers: SQLite keeps them so, and types read them so.
-  const double d = v.Double();
-  if (d == static_cast<double>(static_cast<long long>(d)) && std::fabs(d) < 9e15)
-    return Lie(i, static_cast<long long>(d));
-  return Lie(i, d);
-}
-
-bool Requete::Pas() {
-  const int rc = sqlite3_step(st_);
-  if (rc == SQLITE_ROW) return true;
-  if (rc == SQLITE_DONE) return false;
-  Echec(db_, "SQL");
-}
-
-void Requete::Execute() {
-  while (Pas()) {
-  }
-  Rearme();
-}
-
-void Requete::Rearme() {
-  sqlite3_reset(st_);
-  sqlite3_clear_bindings(st_);
-}
-
-int Requete::Colonnes() const { return sqlite3_column_count(st_); }
-std::string Requete::NomColonne(int i) const { return sqlite3_column_name(st_, i); }
-bool Requete::EstNull(int i) const { return sqlite3_column_type(st_, i) == SQLITE_NULL; }
-int Requete::TypeColonne(int i) const { return sqlite3_column_type(st_, i); }
-long long Requete::Entier(int i) const { return sqlite3_column_int64(st_, i); }
-double Requete::Reel(int i) const { return sqlite3_column_double(st_, i); }
-std::string Requete::Texte(int i) const {
-  const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(st_, i));
-  return p ? std::string(p, static_cast<std::size_t>(sqlite3_column_bytes(st_, i))) : std::string();
-}
-
-Value Requete::Valeur(int i) const {
-  switch (TypeColonne(i)) {
-    case SQLITE_NULL: return Value();
-    case SQLITE_INTEGER: return Value(static_cast<double>(Entier(i)));
-    case SQLITE_FLOAT: return Value(Reel(i));
-    default: return Value(Texte(i));
-  }
+std::vector<std::string> Base::ColonnesDe(const std::string& table) {
+  std::vector<std::string> c;
+  Requete r = Prepare("SELECT name FROM pragma_table_info(?) ORDER BY cid");
+  r.Lie(1, table);
+  while (r.Pas()) c.push_back(r.Texte(0));
+  return c;
 }
 
 }  // namespace orvalis::paie

@@ -4,73 +4,31 @@
 
 #include <sqlite3.h>
 
-#include <stdexcept>
 #include <string>
+#include <vector>
 
-#include "orvalis/value.h"
+#include "paie/sql.h"
 
 namespace orvalis::paie {
 
-// A store that cannot be read or written as asked: the message names the table, row and
-// column when there is one.
-class ErreurMagasin : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-class Requete;
-
-class Base {
+class Base final : public Connexion {
  public:
   // Opens (and creates when asked) the file; a busy store waits up to five seconds.
   Base(const std::string& chemin, bool creer);
-  ~Base();
+  ~Base() override;
   Base(const Base&) = delete;
   Base& operator=(const Base&) = delete;
 
-  void Execute(const std::string& sql);
-  Requete Prepare(const std::string& sql);
+  void Execute(const std::string& sql) override;
+  Requete Prepare(const std::string& sql) override;
+  bool TableExiste(const std::string& nom) override;
+  void Debut() override { Execute("BEGIN IMMEDIATE"); }
+  void Annule() noexcept override { sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr); }
+  std::vector<std::string> ColonnesDe(const std::string& table) override;
   sqlite3* Poignee() { return db_; }
-  bool TableExiste(const std::string& nom);
 
  private:
   sqlite3* db_ = nullptr;
-};
-
-class Requete {
- public:
-  Requete(sqlite3* db, const std::string& sql);
-  ~Requete();
-  Requete(Requete&& r) noexcept : st_(r.st_), db_(r.db_) { r.st_ = nullptr; }
-  Requete(const Requete&) = delete;
-  Requete& operator=(const Requete&) = delete;
-
-  // Binds parameters from 1, in order.
-  Requete& Lie(int i, double v);
-  Requete& Lie(int i, long long v);
-  Requete& Lie(int i, int v) { return Lie(i, static_cast<long long>(v)); }
-  Requete& Lie(int i, const std::string& v);
-  Requete& Lie(int i, const Value& v);
-  Requete& LieNull(int i);
-  // True while a row stands.
-  bool Pas();
-  // Runs to the end and rearms the statement for the next binding.
-  void Execute();
-  void Rearme();
-
-  int Colonnes() const;
-  std::string NomColonne(int i) const;
-  bool EstNull(int i) const;
-  int TypeColonne(int i) const;  // SQLITE_INTEGER, SQLITE_FLOAT, SQLITE_TEXT, ...
-  long long Entier(int i) const;
-  double Reel(int i) const;
-  std::string Texte(int i) const;
-  // The cell as an engine value: null, number or text.
-  Value Valeur(int i) const;
-
- private:
-  sqlite3_stmt* st_ = nullptr;
-  sqlite3* db_;
 };
 
 }  // namespace orvalis::paie

@@ -30,7 +30,7 @@ class TravailleursTest : public DossierTest {
       std::string rang;
       for (int i = 0; i < r.Colonnes(); ++i) {
         if (r.EstNull(i)) rang += "null|";
-        else if (r.TypeColonne(i) == SQLITE_FLOAT) rang += fmt::format("{:a}|", r.Reel(i));
+        else if (r.Type(i) == TypeCellule::Reel) rang += fmt::format("{:a}|", r.Reel(i));
         else rang += r.Texte(i) + "|";
       }
       rangs.push_back(std::move(rang));

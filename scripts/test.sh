@@ -2,8 +2,11 @@
 # Builds the engine, its tools and tests, and passes every test twice: once as built for
 # the hosts, once under AddressSanitizer and UndefinedBehaviorSanitizer, where any report
 # fails the run. The Python module is built on the first build and its tests run with pytest.
-# Both runs replay the fuzz inputs kept in fuzz/. Then each fuzz target runs
-# for a short time under the sanitizers (scripts/fuzz.sh; skipped without clang++).
+# Both runs replay the fuzz inputs kept in fuzz/. The store's tests run over SQLite and over
+# a throw-away PostgreSQL server that the test program starts in a temporary folder and
+# removes when it ends (scripts/serveur_pg_test.sh; skipped, saying so, without PostgreSQL).
+# Then each fuzz target runs for a short time under the sanitizers (scripts/fuzz.sh; skipped
+# without clang++).
 #
 #   ORVALIS_FUZZ_SECONDS=N  seconds per fuzz target (default 25; 0 skips the fuzz step)
 #   ORVALIS_COVERAGE=1      also builds with gcov and prints coverage per subsystem

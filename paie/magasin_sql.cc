@@ -1,8 +1,10 @@
-// The SQLite store: reading a month's data with its checks, writing a month in one
-// transaction, reading it back for the payslips.
+// The store over SQL, the same on SQLite and PostgreSQL: reading a month's data with its
+// checks, writing a month in one transaction, reading it back for the payslips.
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <ctime>
+#include <optional>
 #include <unordered_map>
 
 #include <fmt/format.h>
@@ -10,6 +12,7 @@
 #include "frame/dispatch.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "paie/magasin.h"
+#include "paie/postgres.h"
 #include "paie/mois_outils.h"
 #include "paie/schema.h"
 #include "tools/version.h"
@@ -36,27 +39,41 @@ const char* const kTables[] = {"employeur", "valeurs_fixes", "constantes", "taux
 }
 
 std::string DecritCellule(const Requete& r, int i) {
-  switch (r.TypeColonne(i)) {
-    case SQLITE_NULL: return "null";
-    case SQLITE_INTEGER: return fmt::format("the integer {}", r.Entier(i));
-    case SQLITE_FLOAT: return fmt::format("the number {}", r.Reel(i));
-    case SQLITE_TEXT: return fmt::format("the text '{}'", r.Texte(i));
+  switch (r.Type(i)) {
+    case TypeCellule::Null: return "null";
+    case TypeCellule::Entier: return fmt::format("the integer {}", r.Entier(i));
+    case TypeCellule::Reel: return fmt::format("the number {}", r.Reel(i));
+    case TypeCellule::Texte: return fmt::format("the text '{}'", r.Texte(i));
     default: return "a blob";
   }
 }
 
+// The cell as a number: a number, or a text that is wholly one (PostgreSQL keeps a
+// situation's value as a text); nothing otherwise.
+std::optional<double> NombreDe(const Requete& r, int i) {
+  const TypeCellule t = r.Type(i);
+  if (t == TypeCellule::Entier || t == TypeCellule::Reel) return r.Reel(i);
+  if (t != TypeCellule::Texte) return std::nullopt;
+  const std::string x = r.Texte(i);
+  char* fin = nullptr;
+  const double d = std::strtod(x.c_str(), &fin);
+  if (x.empty() || std::isspace(static_cast<unsigned char>(x[0])) || *fin != '\0' || !std::isfinite(d))
+    return std::nullopt;
+  return d;
+}
+
 // A number column: null gives null, a number gives itself, anything else is an error.
 Value Nombre(const Requete& r, int i, const std::string& table, const std::string& ligne) {
-  const int t = r.TypeColonne(i);
-  if (t == SQLITE_NULL) return Value();
-  if (t == SQLITE_INTEGER || t == SQLITE_FLOAT) return Value(r.Reel(i));
+  const TypeCellule t = r.Type(i);
+  if (t == TypeCellule::Null) return Value();
+  if (t == TypeCellule::Entier || t == TypeCellule::Reel) return Value(r.Reel(i));
   Erreur(table, ligne, r.NomColonne(i), "expected a number, got " + DecritCellule(r, i));
 }
 
 std::string TexteOuVide(const Requete& r, int i, const std::string& table, const std::string& ligne) {
-  const int t = r.TypeColonne(i);
-  if (t == SQLITE_NULL) return {};
-  if (t == SQLITE_TEXT) return r.Texte(i);
+  const TypeCellule t = r.Type(i);
+  if (t == TypeCellule::Null) return {};
+  if (t == TypeCellule::Texte) return r.Texte(i);
   Erreur(table, ligne, r.NomColonne(i), "expected a text, got " + DecritCellule(r, i));
 }
 
@@ -64,17 +81,16 @@ std::string TexteOuVide(const Requete& r, int i, const std::string& table, const
 template <typename R>
 ValeurChamp ValeurDeCellule(const Champ<R>& c, const Requete& r, int i, const std::string& table,
                             const std::string& ligne, const std::string& colonne) {
-  const int t = r.TypeColonne(i);
   auto faux = [&](const char* attendu) {
     Erreur(table, ligne, colonne,
            fmt::format("{} needs {}, got {}", c.nom, attendu, DecritCellule(r, i)));
   };
-  const bool nombre = t == SQLITE_INTEGER || t == SQLITE_FLOAT;
+  const std::optional<double> nombre = NombreDe(r, i);
   switch (c.type) {
     case TypeChamp::I16:
     case TypeChamp::I32: {
       if (!nombre) faux("an integer");
-      const double d = r.Reel(i);
+      const double d = *nombre;
       const double max = c.type == TypeChamp::I16 ? 32767 : 2147483647.0;
       if (d != static_cast<double>(static_cast<long long>(d)) || d > max || d < -max - 1)
         faux(c.type == TypeChamp::I16 ? "a 16-bit integer" : "a 32-bit integer");
@@ -83,14 +99,13 @@ ValeurChamp ValeurDeCellule(const Champ<R>& c, const Requete& r, int i, const st
     }
     case TypeChamp::D:
       if (!nombre) faux("a number");
-      return r.Reel(i);
+      return *nombre;
     case TypeChamp::S:
-      if (t != SQLITE_TEXT) faux("a text");
+      if (r.Type(i) != TypeCellule::Texte) faux("a text");
       return r.Texte(i);
     case TypeChamp::B:
-      if (t != SQLITE_INTEGER || (r.Entier(i) != 0 && r.Entier(i) != 1 && r.Entier(i) != -1))
-        faux("a boolean (0 or 1)");
-      return r.Entier(i) != 0;
+      if (!nombre || (*nombre != 0 && *nombre != 1 && *nombre != -1)) faux("a boolean (0 or 1)");
+      return *nombre != 0;
     case TypeChamp::RS: break;
   }
   Erreur(table, ligne, colonne, std::string(c.nom) + " is a table, not a value");
@@ -120,15 +135,13 @@ class Chronologie {
   std::vector<std::pair<std::string, Value>> points_;
 };
 
-class MagasinSqlite final : public Magasin {
+class MagasinSql final : public Magasin {
  public:
-  MagasinSqlite(const std::string& chemin, bool creer) : chemin_(chemin), base_(chemin, creer) {
-    PrepareSchema(base_, chemin);
-  }
+  explicit MagasinSql(std::unique_ptr<Connexion> base) : base_(std::move(base)) {}
 
   DonneesMois ChargeMois(const std::string& texteMois) override {
     for (const char* t : kTables)
-      if (!base_.TableExiste(t)) throw ErreurMagasin(fmt::format("table '{}' is missing", t));
+      if (!base_->TableExiste(t)) throw ErreurMagasin(fmt::format("table '{}' is missing", t));
     DonneesMois d;
     d.mois = CleMois(texteMois);
     d.employeur = LitEmployeur();
@@ -144,17 +157,18 @@ class MagasinSqlite final : public Magasin {
   }
 
   bool MoisCalcule(const std::string& mois) override {
-    Requete r = base_.Prepare("SELECT 1 FROM calculs WHERE mois = ?");
+    Requete r = base_->Prepare("SELECT 1 FROM calculs WHERE mois = ? AND publie = 1");
     r.Lie(1, CleMois(mois));
     return r.Pas();
   }
 
   void EcritMois(const ResultatMois& res, bool remplacer) override;
   ResultatMois LitMois(const std::string& mois) override;
+  Connexion& Sql() override { return *base_; }
 
  private:
   Employeur LitEmployeur() {
-    Requete r = base_.Prepare("SELECT nom, siret, adresse FROM employeur WHERE id = 1");
+    Requete r = base_->Prepare("SELECT nom, siret, adresse FROM employeur WHERE id = 1");
     if (!r.Pas()) throw ErreurMagasin("table 'employeur': no row (id 1)");
     return {TexteOuVide(r, 0, "employeur", "row 1"), TexteOuVide(r, 1, "employeur", "row 1"),
             TexteOuVide(r, 2, "employeur", "row 1")};
@@ -167,7 +181,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargeValeursFixes(DonneesMois& d) {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT rowid, colonne, depuis, valeur FROM valeurs_fixes WHERE depuis <= ? "
         "ORDER BY colonne, depuis");
     r.Lie(1, d.mois);
@@ -200,7 +214,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargeConstantes(DonneesMois& d) {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT rowid, IdConstante, CodeConstante, depuis, Valeur, TauxMontant FROM constantes "
         "WHERE depuis <= ? ORDER BY IdConstante, depuis");
     r.Lie(1, d.mois);
@@ -233,7 +247,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargeTaux(DonneesMois& d) {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT rowid, IdTaux, IdOrganisme, CodeTaux, PartSalariale, PartPatronale FROM taux t "
         "WHERE depuis = (SELECT max(depuis) FROM taux u WHERE u.IdTaux = t.IdTaux AND depuis <= ?) "
         "ORDER BY IdTaux");
@@ -251,7 +265,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargeBareme(DonneesMois& d) {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT rowid, TypeBareme, BorneInf, BorneSup, TauxNeutre FROM bareme_pas b "
         "WHERE depuis = (SELECT max(depuis) FROM bareme_pas c "
         "                WHERE c.TypeBareme = b.TypeBareme AND depuis <= ?) ORDER BY rowid");
@@ -267,7 +281,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargeCumuls(DonneesMois& d) {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT IdCumul, CodeCumul, libelle, plafond_de, plafond_taux FROM cumuls ORDER BY IdCumul");
     while (r.Pas()) {
       const std::string ligne = fmt::format("IdCumul {}", r.Entier(0));
@@ -285,7 +299,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargePreparations(DonneesMois& d) {
-    Requete r = base_.Prepare("SELECT ordre, methode FROM preparations ORDER BY ordre");
+    Requete r = base_->Prepare("SELECT ordre, methode FROM preparations ORDER BY ordre");
     while (r.Pas()) {
       const std::string ligne = fmt::format("ordre {}", r.Entier(0));
       std::string m = TexteOuVide(r, 1, "preparations", ligne);
@@ -296,7 +310,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   void ChargePlan(DonneesMois& d) {
-    Requete r = base_.Prepare("SELECT * FROM rubriques ORDER BY ordre");
+    Requete r = base_->Prepare("SELECT * FROM rubriques ORDER BY ordre");
     std::unordered_map<long long, std::size_t> parId;
     while (r.Pas()) {
       RubriquePlan p;
@@ -324,7 +338,7 @@ class MagasinSqlite final : public Magasin {
       parId[p.lIdRubrique] = d.plan.size();
       d.plan.push_back(std::move(p));
     }
-    Requete a = base_.Prepare(
+    Requete a = base_->Prepare(
         "SELECT rowid, lIdRubrique, CodeCumul, montant, part, signe FROM rubrique_cumuls "
         "ORDER BY rowid");
     while (a.Pas()) {
@@ -346,14 +360,13 @@ class MagasinSqlite final : public Magasin {
 
   void ChargeSalaries(DonneesMois& d);
 
-  std::string chemin_;
-  Base base_;
+  std::unique_ptr<Connexion> base_;
 };
 
-void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
+void MagasinSql::ChargeSalaries(DonneesMois& d) {
   std::unordered_map<long long, std::size_t> parId;
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, sMatricule, nom, prenom, emploi, adresse FROM salaries "
         "ORDER BY lIdSalarie");
     while (r.Pas()) {
@@ -385,7 +398,7 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
 
   {
     // The last value of each field in force at the month.
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, champ, valeur, depuis, rowid FROM situations s WHERE depuis = "
         "(SELECT max(depuis) FROM situations t WHERE t.lIdSalarie = s.lIdSalarie "
         " AND t.champ = s.champ AND t.depuis <= ?1) ORDER BY lIdSalarie, rowid");
@@ -401,7 +414,7 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
     }
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, CodeSituationExceptionnelle, DateDebutSituationExceptionnelle, "
         "DateFinSituationExceptionnelle, Quotite, rowid FROM situations_exceptionnelles "
         "ORDER BY lIdSalarie, DateDebutSituationExceptionnelle");
@@ -417,7 +430,7 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
     }
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, mois, IdVariable, CodeVariable, Valeur, Dateeffet, TauxMontant, rowid "
         "FROM variables WHERE mois <= ? AND mois >= ? ORDER BY lIdSalarie, mois, IdVariable");
     r.Lie(1, d.mois).Lie(2, DecaleMois(d.mois, -kMoisHistorique));
@@ -442,9 +455,10 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
     }
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT b.lIdSalarie, b.mois, b.dHeuresMois, b.brut, b.net_imposable FROM bulletins b "
-        "WHERE b.mois < ? AND b.mois >= ? ORDER BY b.lIdSalarie, b.mois");
+        "WHERE b.mois < ? AND b.mois >= ? "
+        "AND b.mois IN (SELECT mois FROM calculs WHERE publie = 1) ORDER BY b.lIdSalarie, b.mois");
     r.Lie(1, d.mois).Lie(2, DecaleMois(d.mois, -kMoisHistorique));
     const std::vector<std::string> cols = {"IDSALARIE", "Mois", "HeuresMois", "Brut", "NetImposable"};
     while (r.Pas()) {
@@ -455,9 +469,10 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
     }
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, mois, CodeCumul, IdCumul, PartSalariale, PartPatronale "
-        "FROM cumuls_salarie WHERE mois < ? AND mois >= ? ORDER BY lIdSalarie, mois, IdCumul");
+        "FROM cumuls_salarie WHERE mois < ? AND mois >= ? "
+        "AND mois IN (SELECT mois FROM calculs WHERE publie = 1) ORDER BY lIdSalarie, mois, IdCumul");
     r.Lie(1, d.mois).Lie(2, DecaleMois(d.mois, -kMoisHistorique));
     const std::vector<std::string> cols = {"IDSALARIE", "Mois", "CodeCumul", "IdCumul",
                                            "PartSalariale", "PartPatronale"};
@@ -471,7 +486,7 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
   {
     std::unordered_map<long long, std::size_t> planParId;
     for (std::size_t i = 0; i < d.plan.size(); ++i) planParId[d.plan[i].lIdRubrique] = i;
-    Requete r = base_.Prepare("SELECT lIdSalarie, lIdRubrique, rowid FROM salarie_rubriques");
+    Requete r = base_->Prepare("SELECT lIdSalarie, lIdRubrique, rowid FROM salarie_rubriques");
     while (r.Pas()) {
       const std::string ligne = fmt::format("row {}", r.Entier(2));
       Salarie& s = salarie(r, "salarie_rubriques", ligne);
@@ -485,73 +500,37 @@ void MagasinSqlite::ChargeSalaries(DonneesMois& d) {
   }
 }
 
-void MagasinSqlite::EcritMois(const ResultatMois& res, bool remplacer) {
+void MagasinSql::EcritMois(const ResultatMois& res, bool remplacer) {
   const std::string mois = CleMois(res.mois);
-  base_.Execute("BEGIN IMMEDIATE");
-  try {
-    if (MoisCalcule(mois)) {
+  EnTransaction(*base_, [&] {
+    Requete existe = base_->Prepare("SELECT publie FROM calculs WHERE mois = ?");
+    existe.Lie(1, mois);
+    if (existe.Pas()) {
+      if (existe.Entier(0) == 0)
+        throw ErreurMagasin(fmt::format("month {} is being computed by workers", AfficheMois(mois)));
       if (!remplacer)
         throw ErreurMagasin(fmt::format("month {} is already computed (--replace computes it again)",
                                         AfficheMois(mois)));
-      Requete del = base_.Prepare("DELETE FROM calculs WHERE mois = ?");
+      Requete del = base_->Prepare("DELETE FROM calculs WHERE mois = ?");
       del.Lie(1, mois).Execute();
     }
-    const std::time_t t = std::time(nullptr);
-    char date[32];
-    std::strftime(date, sizeof date, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&t));
-    Requete c = base_.Prepare(
+    Requete c = base_->Prepare(
         "INSERT INTO calculs (mois, date_calcul, version, salaries, lignes, echecs, secondes) "
         "VALUES (?, ?, ?, ?, ?, ?, ?)");
-    c.Lie(1, mois).Lie(2, std::string(date)).Lie(3, std::string(tools::Version()));
+    c.Lie(1, mois).Lie(2, DateUtc()).Lie(3, std::string(tools::Version()));
     c.Lie(4, static_cast<long long>(res.bulletins.size())).Lie(5, static_cast<long long>(res.lignes));
     c.Lie(6, static_cast<long long>(res.echecs)).Lie(7, res.secondes).Execute();
-
-    Requete b = base_.Prepare(
-        "INSERT INTO bulletins VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, "
-        "?14, ?15, ?16, ?17, ?18, ?19)");
-    Requete l = base_.Prepare(
-        "INSERT INTO lignes VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, "
-        "?15, ?16, ?17, ?18, ?19, ?20)");
-    Requete k = base_.Prepare("INSERT INTO cumuls_salarie VALUES (?, ?, ?, ?, ?, ?)");
-    Requete idCumul = base_.Prepare("SELECT IdCumul, CodeCumul FROM cumuls");
-    std::unordered_map<std::string, long long> ids;
-    while (idCumul.Pas()) ids[idCumul.Texte(1)] = idCumul.Entier(0);
-
-    for (const Bulletin& x : res.bulletins) {
-      const Totaux& t = x.totaux;
-      b.Lie(1, mois).Lie(2, static_cast<long long>(x.lIdSalarie)).Lie(3, x.sTypeModele);
-      b.Lie(4, x.sCodeCategorie).Lie(5, x.dIndiceMajoreM).Lie(6, x.dBonification);
-      b.Lie(7, x.dTauxPoste).Lie(8, x.dHeuresMois).Lie(9, t.brut).Lie(10, t.cotisationsSalariales);
-      b.Lie(11, t.netAvantImpot).Lie(12, t.netImposable).Lie(13, t.basePAS).Lie(14, t.tauxPAS);
-      b.Lie(15, t.pas).Lie(16, t.netPaye).Lie(17, t.cotisationsPatronales).Lie(18, t.coutEmployeur);
-      b.Lie(19, x.echecs).Execute();
-      for (const LigneBulletin& y : x.lignes) {
-        l.Lie(1, mois).Lie(2, static_cast<long long>(x.lIdSalarie)).Lie(3, y.ordre);
-        l.Lie(4, static_cast<long long>(y.lIdRubrique)).Lie(5, y.sCodeRubrique).Lie(6, y.sDesignation);
-        l.Lie(7, y.groupe).Lie(8, y.nature).Lie(9, y.methode).Lie(10, y.ok ? 1 : 0);
-        l.Lie(11, y.dBase).Lie(12, y.dValeurCoefficient).Lie(13, y.dTauxSalarial);
-        l.Lie(14, y.dMontantSalarial).Lie(15, y.dTauxPatronal).Lie(16, y.dMontantPatronal);
-        l.Lie(17, y.sValeurBase).Lie(18, y.sCoeffBase).Lie(19, y.sValeurTauxSalarial);
-        l.Lie(20, y.sValeurTauxPatronal).Execute();
-      }
-      for (const auto& [code, parts] : x.cumuls) {
-        k.Lie(1, mois).Lie(2, static_cast<long long>(x.lIdSalarie)).Lie(3, ids[code]).Lie(4, code);
-        k.Lie(5, parts.first).Lie(6, parts.second).Execute();
-      }
-    }
-    base_.Execute("COMMIT");
-  } catch (...) {
-    base_.Execute("ROLLBACK");
-    throw;
-  }
+    InsereBulletins(*base_, mois, res.bulletins);
+  });
 }
 
-ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
+ResultatMois MagasinSql::LitMois(const std::string& texteMois) {
   ResultatMois res;
   res.mois = CleMois(texteMois);
   res.employeur = LitEmployeur();
   {
-    Requete r = base_.Prepare("SELECT lignes, echecs, secondes FROM calculs WHERE mois = ?");
+    Requete r = base_->Prepare(
+        "SELECT lignes, echecs, secondes FROM calculs WHERE mois = ? AND publie = 1");
     r.Lie(1, res.mois);
     if (!r.Pas()) throw ErreurMagasin(fmt::format("month {} is not computed", AfficheMois(res.mois)));
     res.lignes = static_cast<long>(r.Entier(0));
@@ -568,7 +547,7 @@ ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
   };
   std::unordered_map<long long, std::size_t> parId;
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT b.lIdSalarie, s.sMatricule, s.nom, s.prenom, s.emploi, s.adresse, b.sTypeModele, "
         "b.sCodeCategorie, b.dIndiceMajoreM, b.dBonification, b.dTauxPoste, b.dHeuresMois, "
         "b.echecs, b.brut, b.cotisations_salariales, b.net_avant_impot, b.net_imposable, "
@@ -590,18 +569,19 @@ ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
     }
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, sum(brut), sum(cotisations_salariales), sum(net_avant_impot), "
         "sum(net_imposable), sum(base_pas), 0, sum(pas), sum(net_paye), "
         "sum(cotisations_patronales), sum(cout_employeur) FROM bulletins "
-        "WHERE mois >= ? AND mois <= ? GROUP BY lIdSalarie");
+        "WHERE mois >= ? AND mois <= ? AND mois IN (SELECT mois FROM calculs WHERE publie = 1) "
+        "GROUP BY lIdSalarie");
     r.Lie(1, res.mois.substr(0, 4) + "01").Lie(2, res.mois);
     while (r.Pas())
       if (auto it = parId.find(r.Entier(0)); it != parId.end())
         res.bulletins[it->second].annee = totaux(r, 1);
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, ordre, lIdRubrique, sCodeRubrique, sDesignation, groupe, nature, "
         "methode, ok, dBase, dValeurCoefficient, dTauxSalarial, dMontantSalarial, dTauxPatronal, "
         "dMontantPatronal, sValeurBase, sCoeffBase, sValeurTauxSalarial, sValeurTauxPatronal "
@@ -621,7 +601,7 @@ ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
     }
   }
   {
-    Requete r = base_.Prepare(
+    Requete r = base_->Prepare(
         "SELECT lIdSalarie, CodeCumul, PartSalariale, PartPatronale FROM cumuls_salarie "
         "WHERE mois = ?");
     r.Lie(1, res.mois);
@@ -633,8 +613,80 @@ ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
 
 }  // namespace
 
+std::string DateUtc() {
+  const std::time_t t = std::time(nullptr);
+  char date[32];
+  std::strftime(date, sizeof date, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&t));
+  return date;
+}
+
+void InsereBulletins(Connexion& base, const std::string& mois, const std::vector<Bulletin>& bulletins) {
+  Requete b = base.PrepareInsertion(
+      "bulletins", {"mois", "lIdSalarie", "sTypeModele", "sCodeCategorie", "dIndiceMajoreM",
+                    "dBonification", "dTauxPoste", "dHeuresMois", "brut", "cotisations_salariales",
+                    "net_avant_impot", "net_imposable", "base_pas", "taux_pas", "pas", "net_paye",
+                    "cotisations_patronales", "cout_employeur", "echecs"});
+  Requete l = base.PrepareInsertion(
+      "lignes", {"mois", "lIdSalarie", "ordre", "lIdRubrique", "sCodeRubrique", "sDesignation",
+                 "groupe", "nature", "methode", "ok", "dBase", "dValeurCoefficient", "dTauxSalarial",
+                 "dMontantSalarial", "dTauxPatronal", "dMontantPatronal", "sValeurBase", "sCoeffBase",
+                 "sValeurTauxSalarial", "sValeurTauxPatronal"});
+  Requete k = base.PrepareInsertion(
+      "cumuls_salarie", {"mois", "lIdSalarie", "IdCumul", "CodeCumul", "PartSalariale", "PartPatronale"});
+  Requete idCumul = base.Prepare("SELECT IdCumul, CodeCumul FROM cumuls");
+  std::unordered_map<std::string, long long> ids;
+  while (idCumul.Pas()) ids[idCumul.Texte(1)] = idCumul.Entier(0);
+
+  for (const Bulletin& x : bulletins) {
+    const Totaux& t = x.totaux;
+    b.Lie(1, mois).Lie(2, static_cast<long long>(x.lIdSalarie)).Lie(3, x.sTypeModele);
+    b.Lie(4, x.sCodeCategorie).Lie(5, x.dIndiceMajoreM).Lie(6, x.dBonification);
+    b.Lie(7, x.dTauxPoste).Lie(8, x.dHeuresMois).Lie(9, t.brut).Lie(10, t.cotisationsSalariales);
+    b.Lie(11, t.netAvantImpot).Lie(12, t.netImposable).Lie(13, t.basePAS).Lie(14, t.tauxPAS);
+    b.Lie(15, t.pas).Lie(16, t.netPaye).Lie(17, t.cotisationsPatronales).Lie(18, t.coutEmployeur);
+    b.Lie(19, x.echecs).Execute();
+  }
+  // Every payslip before its lines: the lines refer to them.
+  b.Termine();
+  for (const Bulletin& x : bulletins) {
+    for (const LigneBulletin& y : x.lignes) {
+      l.Lie(1, mois).Lie(2, static_cast<long long>(x.lIdSalarie)).Lie(3, y.ordre);
+      l.Lie(4, static_cast<long long>(y.lIdRubrique)).Lie(5, y.sCodeRubrique).Lie(6, y.sDesignation);
+      l.Lie(7, y.groupe).Lie(8, y.nature).Lie(9, y.methode).Lie(10, y.ok ? 1 : 0);
+      l.Lie(11, y.dBase).Lie(12, y.dValeurCoefficient).Lie(13, y.dTauxSalarial);
+      l.Lie(14, y.dMontantSalarial).Lie(15, y.dTauxPatronal).Lie(16, y.dMontantPatronal);
+      l.Lie(17, y.sValeurBase).Lie(18, y.sCoeffBase).Lie(19, y.sValeurTauxSalarial);
+      l.Lie(20, y.sValeurTauxPatronal).Execute();
+    }
+    for (const auto& [code, parts] : x.cumuls) {
+      k.Lie(1, mois).Lie(2, static_cast<long long>(x.lIdSalarie)).Lie(3, ids[code]).Lie(4, code);
+      k.Lie(5, parts.first).Lie(6, parts.second).Execute();
+    }
+  }
+  l.Termine();
+  k.Termine();
+}
+
 std::unique_ptr<Magasin> OuvreMagasinSqlite(const std::string& chemin, bool creer) {
-  return std::make_unique<MagasinSqlite>(chemin, creer);
+  auto base = std::make_unique<Base>(chemin, creer);
+  PrepareSchema(*base, chemin);
+  return std::make_unique<MagasinSql>(std::move(base));
+}
+
+std::unique_ptr<Magasin> OuvreMagasinPostgres(const std::string& adresse, const std::string& application) {
+  auto base = std::make_unique<BasePg>(adresse, application);
+  PrepareSchemaPg(*base);
+  return std::make_unique<MagasinSql>(std::move(base));
+}
+
+std::unique_ptr<Connexion> OuvreConnexion(const std::string& magasin, bool creer) {
+  if (EstAdressePostgres(magasin)) return std::make_unique<BasePg>(magasin);
+  return std::make_unique<Base>(magasin, creer);
+}
+
+std::unique_ptr<Magasin> OuvreMagasin(const std::string& magasin, bool creer) {
+  if (EstAdressePostgres(magasin)) return OuvreMagasinPostgres(magasin);
+  return OuvreMagasinSqlite(magasin, creer);
 }
 
 }  // namespace orvalis::paie
