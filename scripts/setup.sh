@@ -2,7 +2,8 @@
 # Installs what the project needs on a fresh Debian 12 machine: the compiler, CMake,
 # GoogleTest, Google Benchmark, the JSON library of the host tools, SQLite, PostgreSQL (the
 # server for the tests, libpq for the store), CLI11 and fmt for the pay run, Debian's Python
-# with pybind11, setuptools, venv and pytest for the Python module, clang and its runtime for the libFuzzer targets, and gcovr for the coverage report.
+# with pybind11, setuptools, venv and pytest for the Python module, clang and its runtime for
+# the libFuzzer targets, and gcovr for the coverage report.
 # Packages already present are left alone, so a second run costs nothing.
 set -euo pipefail
 
