@@ -63,6 +63,17 @@ bool LitChiffres(const std::string& s, std::size_t& i, std::size_t mini, std::si
 
 // Day first "d/m/yyyy"; false when the text is not such a date or the day does not exist.
 bool Analyse(const std::string& s, int& jour, int& mois, int& annee) {
+  const auto chiffre = [&s](std::size_t k) { return s[k] >= '0' && s[k] <= '9'; };
+  if (s.size() == 10 && s[2] == '/' && s[5] == '/' && chiffre(0) && chiffre(1) && chiffre(3) &&
+      chiffre(4) && chiffre(6) && chiffre(7) && chiffre(8) && chiffre(9)) {
+    // The usual "dd/mm/yyyy", read in one go; the checks below are the same.
+    const auto n = [&s](std::size_t k) { return s[k] - '0'; };
+    jour = n(0) * 10 + n(1);
+    mois = n(3) * 10 + n(4);
+    annee = n(6) * 1000 + n(7) * 100 + n(8) * 10 + n(9);
+    if (annee < 100 || mois < 1 || mois > 12) return false;
+    return jour >= 1 && jour <= JoursDansMois(annee, mois);
+  }
   std::size_t i = 0;
   if (!LitChiffres(s, i, 1, 2, jour)) return false;
   if (i >= s.size() || s[i] != '/') return false;
@@ -145,6 +156,13 @@ Date LireDate(const std::string& s) {
 
 std::string TexteDate(Date d) {
   const Civil c = DeSerie(d);
+  if (c.y >= 0 && c.y <= 9999) {
+    // The usual date written digit by digit: "dd/mm/yyyy" without formatting.
+    const auto chiffre = [](long n) { return static_cast<char>('0' + n); };
+    const long y = c.y;
+    return {chiffre(c.d / 10), chiffre(c.d % 10), '/', chiffre(c.m / 10), chiffre(c.m % 10), '/',
+            chiffre(y / 1000), chiffre(y / 100 % 10), chiffre(y / 10 % 10), chiffre(y % 10)};
+  }
   char buf[32];
   std::snprintf(buf, sizeof buf, "%02d/%02d/%04ld", c.d, c.m, c.y);
   return buf;

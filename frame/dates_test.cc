@@ -104,7 +104,8 @@ TEST(DatesTest, RejectsWhatIsNotADate) {
   for (const char* t :
        {"2024-01-01", "32/01/2024", "1/1/24", "", " 01/01/2024", "01/01/2024 ", "31/04/2024",
         "29/02/2021", "29/02/1900", "01/13/2024", "00/01/2024", "01/00/2024", "001/01/2024",
-        "01/01/20245", "01/01/2024 00:00", "01-01-2024", "__/__/____", "1/1/0099", "a/01/2024"}) {
+        "01/01/20245", "01/01/2024 00:00", "01-01-2024", "__/__/____", "1/1/0099", "a/01/2024",
+        "01/01/0099", "00/00/0000", "30/02/2024", "31/06/2024", "01/1a/2024", "01/01/ 024"}) {
     EXPECT_FALSE(EstDate(t)) << t;
     EXPECT_THROW(LireDate(t), Fault) << t;
   }
@@ -124,6 +125,11 @@ TEST(DatesTest, TextIsTwoDigitDayAndMonth) {
   EXPECT_EQ(TexteDate(Date{2}), "01/01/1900");
   EXPECT_EQ(TexteDate(Date{54889}), "11/04/2050");
   EXPECT_EQ(TexteDate(LireDate("5/7/2021")), "05/07/2021");
+  EXPECT_EQ(TexteDate(DateSerial(100, 1, 1)), "01/01/0100");
+  EXPECT_EQ(TexteDate(DateSerial(9999, 12, 31)), "31/12/9999");
+  // Outside four digits, the year as it stands.
+  EXPECT_EQ(TexteDate(DateSerial(10000, 1, 1)), "01/01/10000");
+  EXPECT_EQ(TexteDate(DateSerial(-1, 3, 5)), "05/03/-001");
 }
 
 }  // namespace
