@@ -1,6 +1,8 @@
 // Months of date texts and the walk of the exceptional situations.
 #include "period/periode_outils.h"
 
+#include "frame/filtre_egalite.h"
+
 namespace orvalis::periode {
 
 std::string FiltreCodes(const std::vector<std::string>& codes) {
@@ -23,13 +25,15 @@ Situation LitSituation(Recordset& rs) {
   return s;
 }
 
-void ParcourtSituations(VarCalculSalarie& InfosSalaries, const std::string& sCritere,
-                        const std::function<void(Recordset&)>& pourChaque) {
+void ParcourtSituations(VarCalculSalarie& InfosSalaries, const std::vector<std::string>& codes,
+                        const std::function<void(Recordset&)>& pourChaque,
+                        const std::string& sCritere) {
   Recordset& rs = Source(InfosSalaries.rsSituationsExceptionnelles, "rsSituationsExceptionnelles");
   if (rs.RecordCount() <= 0) return;
   rs.ClearFilter();
   rs.MoveFirst();
-  rs.Filter(sCritere);
+  if (!FiltreTextesEnMemoire(rs, "CodeSituationExceptionnelle", codes))
+    rs.Filter(sCritere.empty() ? FiltreCodes(codes) : sCritere);
   while (!rs.Eof()) {
     pourChaque(rs);
     rs.MoveNext();

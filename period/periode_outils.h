@@ -67,10 +67,13 @@ struct Situation {
 };
 Situation LitSituation(Recordset& rs);
 
-// Walks the rows of rsSituationsExceptionnelles that pass sCritere, in order, then clears
-// the filter. Nothing is done when the source holds no row. A missing source is a fault.
-void ParcourtSituations(VarCalculSalarie& InfosSalaries, const std::string& sCritere,
-                        const std::function<void(Recordset&)>& pourChaque);
+// Walks the rows of rsSituationsExceptionnelles whose code is one of `codes`, in order, then
+// clears the filter. Nothing is done when the source holds no row. A missing source is a
+// fault. A host's own source receives the criterion FiltreCodes(codes), or sCritere when
+// one is given.
+void ParcourtSituations(VarCalculSalarie& InfosSalaries, const std::vector<std::string>& codes,
+                        const std::function<void(Recordset&)>& pourChaque,
+                        const std::string& sCritere = {});
 
 }  // namespace orvalis::periode
 
