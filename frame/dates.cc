@@ -91,6 +91,10 @@ bool Analyse(const std::string& s, int& jour, int& mois, int& annee) {
 }  // namespace
 
 Date DateSerial(int year, int month, int day) {
+  if (year >= 1 && month >= 1 && month <= 12) {
+    // A month of the calendar in a year from 1: the civil days without carrying months.
+    return Date{JoursCivils(year, month, 1) + kSerial1970 + day - 1};
+  }
   const long mois0 = static_cast<long>(month) - 1;
   const long y = year + FloorDiv(mois0, 12);
   const int m = static_cast<int>(mois0 - FloorDiv(mois0, 12) * 12) + 1;
@@ -110,6 +114,7 @@ int JourSemaine(Date d) {
 
 int JoursDansMois(int year, int month) {
   static constexpr int kJours[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  if (month >= 1 && month <= 12) return month == 2 && EstBissextile(year) ? 29 : kJours[month - 1];
   const long mois0 = static_cast<long>(month) - 1;
   const long y = year + FloorDiv(mois0, 12);
   const int m = static_cast<int>(mois0 - FloorDiv(mois0, 12) * 12) + 1;

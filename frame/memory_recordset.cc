@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -123,8 +124,13 @@ std::size_t MemoryRecordset::Colonne(std::string_view column, const char* usage)
   // comparison finds them before any other. Names are unique whatever their case, so an
   // exact match is the one match.
   if (colonnes_.size() <= kEtroite) {
-    for (std::size_t c = 0; c < colonnes_.size(); ++c)
-      if (colonnes_[c] == column) return c;
+    for (std::size_t c = 0; c < colonnes_.size(); ++c) {
+      const std::string& nom = colonnes_[c];
+      // Length and first letter set most names apart before any comparison of the rest.
+      if (nom.size() == column.size() && nom[0] == column[0] &&
+          std::memcmp(nom.data(), column.data(), nom.size()) == 0)
+        return c;
+    }
   }
   const std::size_t c = ColonneSansCasse(column);
   if (c == kAucune) Faute(std::string(usage) + std::string(column));
@@ -211,9 +217,17 @@ void MemoryRecordset::FiltreNombre(std::string_view column, double nombre) {
 void MemoryRecordset::FiltreTextes(std::string_view column, const std::vector<std::string>& textes) {
   const Index& ix = IndexTexte(Colonne(column, "filter on a missing column: "));
   tampon_.clear();
-  for (const std::string& t : textes) {
-    const auto it = ix.parTexte.find(std::string_view(t));
-    if (it != ix.parTexte.end()) tampon_.insert(tampon_.end(), it->second.begin(), it->second.end());
+  const auto prend = [this](const Lignes& l) { tampon_.insert(tampon_.end(), l.begin(), l.end()); };
+  if (ix.parTexte.size() < textes.size()) {
+    // Few texts in the column (a handful of situations against a long list of codes): each
+    // is looked for among the texts asked.
+    for (const auto& [texte, lignes] : ix.parTexte)
+      if (std::find(textes.begin(), textes.end(), texte) != textes.end()) prend(lignes);
+  } else {
+    for (const std::string& t : textes) {
+      const auto it = ix.parTexte.find(std::string_view(t));
+      if (it != ix.parTexte.end()) prend(it->second);
+    }
   }
   // The rows in their order, each once, as the union of the equalities gives them.
   std::sort(tampon_.begin(), tampon_.end());

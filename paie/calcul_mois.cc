@@ -27,7 +27,7 @@ class CumulsSalarie {
  public:
   explicit CumulsSalarie(const std::vector<Cumul>& cumuls)
       : cumuls_(cumuls), rs_(NouveauRecordset(kColonnesCumuls)), sommes_(cumuls.size()),
-        vus_(cumuls.size()), plafonnes_(cumuls.size()) {
+        vus_(cumuls.size()), plafonnes_(cumuls.size()), ecrit_(cumuls.size(), false) {
     for (std::size_t i = 0; i < cumuls.size(); ++i) {
       const Cumul& c = cumuls[i];
       rs_->AddNew();
@@ -48,6 +48,7 @@ class CumulsSalarie {
       sommes_[i] = vus_[i] = {0.0, 0.0};
       Ecrit(i, "PartSalariale", 0.0);
       Ecrit(i, "PartPatronale", 0.0);
+      ecrit_[i] = false;
     }
     ecrits_.clear();
     rs_->ClearFilter();
@@ -82,7 +83,8 @@ class CumulsSalarie {
       valeur = std::min(valeur, Arrondi(Cote(vus_[Place(c.plafondDe)], part) * c.plafondTaux / 100, 2));
     Cote(vus_[i], part) = valeur;
     Ecrit(i, part == 'P' ? "PartPatronale" : "PartSalariale", valeur);
-    ecrits_.push_back(i);
+    if (!ecrit_[i]) ecrits_.push_back(i);
+    ecrit_[i] = true;
   }
 
   void Ecrit(std::size_t i, const char* colonne, double valeur) {
@@ -97,6 +99,7 @@ class CumulsSalarie {
   std::vector<std::pair<double, double>> sommes_, vus_;  // (S, P) by place
   std::vector<std::vector<std::size_t>> plafonnes_;     // the totals capped by each one
   std::vector<std::size_t> ecrits_;                     // the places written since the start
+  std::vector<bool> ecrit_;                             // by place: in ecrits_
 };
 
 // The record's own tables that the store does not hold yet: empty, so that a handler walking
