@@ -2,6 +2,7 @@
 #include "orvalis/dates.h"
 
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "orvalis/fault.h"
@@ -153,10 +154,44 @@ bool EstDate(const std::string& s) {
   return Analyse(s, j, m, a);
 }
 
+// The dates read last on this thread, "dd/mm/yyyy" only: the same few texts (the pay month,
+// the employee's dates) come back at every line.
+class DatesLues {
+ public:
+  const Date* Trouve(const std::string& s) const {
+    for (std::size_t i = 0; i < pleines_; ++i)
+      if (std::memcmp(lues_[i].texte, s.data(), kLongueur) == 0) return &lues_[i].date;
+    return nullptr;
+  }
+  void Garde(const std::string& s, Date d) {
+    Lue& l = lues_[prochaine_];
+    std::memcpy(l.texte, s.data(), kLongueur);
+    l.date = d;
+    prochaine_ = (prochaine_ + 1) % kTaille;
+    if (pleines_ < kTaille) ++pleines_;
+  }
+  static constexpr std::size_t kLongueur = 10;
+
+ private:
+  static constexpr std::size_t kTaille = 8;
+  struct Lue {
+    char texte[kLongueur];
+    Date date;
+  };
+  Lue lues_[kTaille];
+  std::size_t pleines_ = 0, prochaine_ = 0;
+};
+
 Date LireDate(const std::string& s) {
+  thread_local DatesLues lues;
+  const bool usuelle = s.size() == DatesLues::kLongueur;
+  if (usuelle)
+    if (const Date* d = lues.Trouve(s)) return *d;
   int j = 0, m = 0, a = 0;
   if (!Analyse(s, j, m, a)) Faute("not a date: '" + s + "'");
-  return DateSerial(a, m, j);
+  const Date d = DateSerial(a, m, j);
+  if (usuelle) lues.Garde(s, d);
+  return d;
 }
 
 std::string TexteDate(Date d) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "orvalis/fault.h"
 
 namespace orvalis {
@@ -130,6 +132,23 @@ TEST(DatesTest, TextIsTwoDigitDayAndMonth) {
   // Outside four digits, the year as it stands.
   EXPECT_EQ(TexteDate(DateSerial(10000, 1, 1)), "01/01/10000");
   EXPECT_EQ(TexteDate(DateSerial(-1, 3, 5)), "05/03/-001");
+}
+
+// The dates read last are kept: read again, in any order and past the number kept, each
+// text gives its own date, and a text that is not a date still faults.
+TEST(DatesTest, ReadAgainEachTextGivesItsDate) {
+  for (int tour = 0; tour < 3; ++tour) {
+    for (int jour = 1; jour <= 20; ++jour) {
+      char texte[16];
+      std::snprintf(texte, sizeof texte, "%02d/03/2024", jour);
+      EXPECT_EQ(LireDate(texte), DateSerial(2024, 3, jour)) << texte;
+      EXPECT_EQ(LireDate("01/03/2024"), DateSerial(2024, 3, 1));
+    }
+  }
+  EXPECT_THROW(LireDate("32/03/2024"), Fault);
+  EXPECT_EQ(LireDate("1/3/2024"), DateSerial(2024, 3, 1));
+  EXPECT_EQ(LireDate("29/02/2024"), DateSerial(2024, 2, 29));
+  EXPECT_THROW(LireDate("29/02/2023"), Fault);
 }
 
 }  // namespace
