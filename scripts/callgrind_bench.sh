@@ -32,7 +32,7 @@ rm -f "$commune"
 "$1/orvalis" demo "$commune" --agents 1000 >/dev/null
 valgrind --tool=callgrind --callgrind-out-file="$out-mois.out" \
   "$1/orvalis" paie "$commune" 2024-03 --jobs 1 >/dev/null 2>&1
-callgrind_annotate --inclusive=yes "$out-mois.out" | grep -m1 "PROGRAM TOTALS"
-callgrind_annotate --inclusive=yes "$out-mois.out" |
-  grep -E "^ *[0-9,]+ \( *[0-9.]+%\)  [^ ]*\.cc:.*(ChargeMois|paie::CalculeMois|EcritMois)\(" |
+annote="$(callgrind_annotate --inclusive=yes "$out-mois.out")"
+grep -m1 "PROGRAM TOTALS" <<<"$annote"
+grep -E "^ *[0-9,]+ \( *[0-9.]+%\)  [^ ]*\.cc:.*(ChargeMois|paie::CalculeMois|EcritMois)\(" <<<"$annote" |
   sed -E 's/ +\[.*//; s/\((std|orvalis)::.*//' | awk -F'::' '!vu[$NF]++'
