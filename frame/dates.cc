@@ -2,6 +2,7 @@
 #include "orvalis/dates.h"
 
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "orvalis/fault.h"
@@ -63,6 +64,17 @@ bool LitChiffres(const std::string& s, std::size_t& i, std::size_t mini, std::si
 
 // Day first "d/m/yyyy"; false when the text is not such a date or the day does not exist.
 bool Analyse(const std::string& s, int& jour, int& mois, int& annee) {
+  const auto chiffre = [&s](std::size_t k) { return s[k] >= '0' && s[k] <= '9'; };
+  if (s.size() == 10 && s[2] == '/' && s[5] == '/' && chiffre(0) && chiffre(1) && chiffre(3) &&
+      chiffre(4) && chiffre(6) && chiffre(7) && chiffre(8) && chiffre(9)) {
+    // The usual "dd/mm/yyyy", read in one go; the checks below are the same.
+    const auto n = [&s](std::size_t k) { return s[k] - '0'; };
+    jour = n(0) * 10 + n(1);
+    mois = n(3) * 10 + n(4);
+    annee = n(6) * 1000 + n(7) * 100 + n(8) * 10 + n(9);
+    if (annee < 100 || mois < 1 || mois > 12) return false;
+    return jour >= 1 && jour <= JoursDansMois(annee, mois);
+  }
   std::size_t i = 0;
   if (!LitChiffres(s, i, 1, 2, jour)) return false;
   if (i >= s.size() || s[i] != '/') return false;
@@ -80,6 +92,10 @@ bool Analyse(const std::string& s, int& jour, int& mois, int& annee) {
 }  // namespace
 
 Date DateSerial(int year, int month, int day) {
+  if (year >= 1 && month >= 1 && month <= 12) {
+    // A month of the calendar in a year from 1: the civil days without carrying months.
+    return Date{JoursCivils(year, month, 1) + kSerial1970 + day - 1};
+  }
   const long mois0 = static_cast<long>(month) - 1;
   const long y = year + FloorDiv(mois0, 12);
   const int m = static_cast<int>(mois0 - FloorDiv(mois0, 12) * 12) + 1;
@@ -99,6 +115,7 @@ int JourSemaine(Date d) {
 
 int JoursDansMois(int year, int month) {
   static constexpr int kJours[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  if (month >= 1 && month <= 12) return month == 2 && EstBissextile(year) ? 29 : kJours[month - 1];
   const long mois0 = static_cast<long>(month) - 1;
   const long y = year + FloorDiv(mois0, 12);
   const int m = static_cast<int>(mois0 - FloorDiv(mois0, 12) * 12) + 1;
@@ -137,14 +154,55 @@ bool EstDate(const std::string& s) {
   return Analyse(s, j, m, a);
 }
 
+// The dates read last on this thread, "dd/mm/yyyy" only: the same few texts (the pay month,
+// the employee's dates) come back at every line.
+class DatesLues {
+ public:
+  const Date* Trouve(const std::string& s) const {
+    for (std::size_t i = 0; i < pleines_; ++i)
+      if (std::memcmp(lues_[i].texte, s.data(), kLongueur) == 0) return &lues_[i].date;
+    return nullptr;
+  }
+  void Garde(const std::string& s, Date d) {
+    Lue& l = lues_[prochaine_];
+    std::memcpy(l.texte, s.data(), kLongueur);
+    l.date = d;
+    prochaine_ = (prochaine_ + 1) % kTaille;
+    if (pleines_ < kTaille) ++pleines_;
+  }
+  static constexpr std::size_t kLongueur = 10;
+
+ private:
+  static constexpr std::size_t kTaille = 8;
+  struct Lue {
+    char texte[kLongueur];
+    Date date;
+  };
+  Lue lues_[kTaille];
+  std::size_t pleines_ = 0, prochaine_ = 0;
+};
+
 Date LireDate(const std::string& s) {
+  thread_local DatesLues lues;
+  const bool usuelle = s.size() == DatesLues::kLongueur;
+  if (usuelle)
+    if (const Date* d = lues.Trouve(s)) return *d;
   int j = 0, m = 0, a = 0;
   if (!Analyse(s, j, m, a)) Faute("not a date: '" + s + "'");
-  return DateSerial(a, m, j);
+  const Date d = DateSerial(a, m, j);
+  if (usuelle) lues.Garde(s, d);
+  return d;
 }
 
 std::string TexteDate(Date d) {
   const Civil c = DeSerie(d);
+  if (c.y >= 0 && c.y <= 9999) {
+    // The usual date written digit by digit: "dd/mm/yyyy" without formatting.
+    const auto chiffre = [](long n) { return static_cast<char>('0' + n); };
+    const long y = c.y;
+    return {chiffre(c.d / 10), chiffre(c.d % 10), '/', chiffre(c.m / 10), chiffre(c.m % 10), '/',
+            chiffre(y / 1000), chiffre(y / 100 % 10), chiffre(y / 10 % 10), chiffre(y % 10)};
+  }
   char buf[32];
   std::snprintf(buf, sizeof buf, "%02d/%02d/%04ld", c.d, c.m, c.y);
   return buf;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "orvalis/fault.h"
 
 namespace orvalis {
@@ -104,7 +106,8 @@ TEST(DatesTest, RejectsWhatIsNotADate) {
   for (const char* t :
        {"2024-01-01", "32/01/2024", "1/1/24", "", " 01/01/2024", "01/01/2024 ", "31/04/2024",
         "29/02/2021", "29/02/1900", "01/13/2024", "00/01/2024", "01/00/2024", "001/01/2024",
-        "01/01/20245", "01/01/2024 00:00", "01-01-2024", "__/__/____", "1/1/0099", "a/01/2024"}) {
+        "01/01/20245", "01/01/2024 00:00", "01-01-2024", "__/__/____", "1/1/0099", "a/01/2024",
+        "01/01/0099", "00/00/0000", "30/02/2024", "31/06/2024", "01/1a/2024", "01/01/ 024"}) {
     EXPECT_FALSE(EstDate(t)) << t;
     EXPECT_THROW(LireDate(t), Fault) << t;
   }
@@ -124,6 +127,28 @@ TEST(DatesTest, TextIsTwoDigitDayAndMonth) {
   EXPECT_EQ(TexteDate(Date{2}), "01/01/1900");
   EXPECT_EQ(TexteDate(Date{54889}), "11/04/2050");
   EXPECT_EQ(TexteDate(LireDate("5/7/2021")), "05/07/2021");
+  EXPECT_EQ(TexteDate(DateSerial(100, 1, 1)), "01/01/0100");
+  EXPECT_EQ(TexteDate(DateSerial(9999, 12, 31)), "31/12/9999");
+  // Outside four digits, the year as it stands.
+  EXPECT_EQ(TexteDate(DateSerial(10000, 1, 1)), "01/01/10000");
+  EXPECT_EQ(TexteDate(DateSerial(-1, 3, 5)), "05/03/-001");
+}
+
+// The dates read last are kept: read again, in any order and past the number kept, each
+// text gives its own date, and a text that is not a date still faults.
+TEST(DatesTest, ReadAgainEachTextGivesItsDate) {
+  for (int tour = 0; tour < 3; ++tour) {
+    for (int jour = 1; jour <= 20; ++jour) {
+      char texte[16];
+      std::snprintf(texte, sizeof texte, "%02d/03/2024", jour);
+      EXPECT_EQ(LireDate(texte), DateSerial(2024, 3, jour)) << texte;
+      EXPECT_EQ(LireDate("01/03/2024"), DateSerial(2024, 3, 1));
+    }
+  }
+  EXPECT_THROW(LireDate("32/03/2024"), Fault);
+  EXPECT_EQ(LireDate("1/3/2024"), DateSerial(2024, 3, 1));
+  EXPECT_EQ(LireDate("29/02/2024"), DateSerial(2024, 2, 29));
+  EXPECT_THROW(LireDate("29/02/2023"), Fault);
 }
 
 }  // namespace

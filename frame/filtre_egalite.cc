@@ -1,6 +1,7 @@
 // The equality filters, typed on the in-memory source.
 #include "frame/filtre_egalite.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <typeinfo>
 
@@ -23,6 +24,15 @@ void FiltreCode(Recordset& rs, const char* colonne, const std::string& sCode) {
     return;
   }
   rs.Filter(std::string(colonne) + " = '" + sCode + "'");
+}
+
+bool FiltreTextesEnMemoire(Recordset& rs, const char* colonne, const std::vector<std::string>& textes) {
+  MemoryRecordset* m = EnMemoire(rs);
+  const auto sansQuote = [](const std::string& t) { return t.find('\'') == std::string::npos; };
+  if (m == nullptr || textes.empty() || !std::all_of(textes.begin(), textes.end(), sansQuote))
+    return false;
+  m->FiltreTextes(colonne, textes);
+  return true;
 }
 
 void FiltreId(Recordset& rs, const char* colonne, Int32 lId) {

@@ -8,6 +8,7 @@
 #define ORVALIS_FRAME_FILTRE_EGALITE_H_
 
 #include <string>
+#include <vector>
 
 #include "orvalis/Recordset.h"
 #include "orvalis/numeric.h"
@@ -16,6 +17,10 @@ namespace orvalis {
 
 void FiltreCode(Recordset& rs, const char* colonne, const std::string& sCode);
 void FiltreId(Recordset& rs, const char* colonne, Int32 lId);
+// "Column = 'a' Or Column = 'b' ..." set on the in-memory source from the texts themselves
+// (at least one, none holding a quote); false, and nothing done, on any other source, which
+// is then given the criterion text.
+bool FiltreTextesEnMemoire(Recordset& rs, const char* colonne, const std::vector<std::string>& textes);
 
 }  // namespace orvalis
 

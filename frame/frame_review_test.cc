@@ -4,6 +4,7 @@
 // calls made to it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
 #include <string>
@@ -17,6 +18,7 @@
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/Recordset.h"
 #include "orvalis/fault.h"
+#include "period/periode_test_outils.h"
 
 namespace orvalis {
 namespace {
@@ -1352,6 +1354,36 @@ TEST(FrameReviewTest, ALookupAfterAFaultStillFindsItsRow) {
   EXPECT_EQ(rs->RecordCount(), 1);
   EXPECT_DOUBLE_EQ(m.dRechercheValeur_Constantes(rs, "B"), 2.0);
   EXPECT_EQ(rs->RecordCount(), 2);
+}
+
+// A host's own source of situations receives the criterion texts it always has, the
+// missing blank before the fourth OR included.
+TEST(SituationsHote, CriteriaOfTheSituationsAsTheyWere) {
+  auto situations = Espionne({"CodeSituationExceptionnelle", "DateDebutSituationExceptionnelle",
+                              "DateFinSituationExceptionnelle", "Quotite"},
+                             {{"MI", "01/03/2023", "10/03/2023", Value::Null()},
+                              {"DT", "15/03/2023", "20/03/2023", Value::Null()}});
+  MethodeCalculG_Nouv m;
+  m.gPeriodeEncours = "01/03/2023";
+  VarCalculSalarie s = periode_test::SalarieMoisComplet();
+  s.sOccupationPoste = "P";
+  s.dTauxPoste = 80;
+  s.rsSituationsExceptionnelles = situations;
+  ASSERT_TRUE(m.Appel_Methode_Preparation_Calcul_General("COEFFICIENT_TRAITEMENT", s));
+  ASSERT_TRUE(m.Appel_Methode_Preparation_Calcul_General("NBRE_JOUR_DEMI_TRAITEMENT", s));
+  const std::vector<std::string> filtres = situations->Filtres();
+  const std::string tpt =
+      "CodeSituationExceptionnelle = 'MI' OR CodeSituationExceptionnelle = 'M6' OR "
+      "CodeSituationExceptionnelle = 'M7'OR CodeSituationExceptionnelle = 'M8' OR "
+      "CodeSituationExceptionnelle = 'M9' OR CodeSituationExceptionnelle = 'MV'";
+  const std::string demi =
+      "CodeSituationExceptionnelle = 'DT' OR CodeSituationExceptionnelle = 'LD' OR "
+      "CodeSituationExceptionnelle = 'GD' OR CodeSituationExceptionnelle = 'CD' OR "
+      "CodeSituationExceptionnelle = 'DO50'";
+  EXPECT_NE(std::find(filtres.begin(), filtres.end(), tpt), filtres.end());
+  EXPECT_EQ(filtres.back(), demi);
+  // Half pay 15 to 20 March: 6 days, on the new index and hours.
+  EXPECT_EQ(s.iNBJ_DemiTraitement_Total.value(), 6);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -86,31 +87,54 @@ bool MemoryRecordset::EgalSansCasse::operator()(std::string_view a, std::string_
 }
 
 MemoryRecordset::MemoryRecordset(const std::vector<std::string>& columns) {
+  colonnes_.reserve(columns.size());
+  index_.reserve(columns.size());
   for (const auto& c : columns) AjouteColonne(c);
 }
 
+// A narrow table is searched by comparing its few names; the hashed names are built when
+// the table grows past them.
+constexpr std::size_t kEtroite = 8;
+
 void MemoryRecordset::AjouteColonne(const std::string& column) {
   if (column.empty()) Faute("empty column name");
-  if (parNom_.find(std::string_view(column)) != parNom_.end())
-    Faute("column named twice: " + column);
-  parNom_.emplace(column, colonnes_.size());
+  if (ColonneSansCasse(column) != kAucune) Faute("column named twice: " + column);
   colonnes_.push_back(column);
   index_.emplace_back();
   for (auto& ligne : lignes_) ligne.emplace_back();
+  if (colonnes_.size() > kEtroite) {
+    if (parNom_.empty())
+      for (std::size_t c = 0; c + 1 < colonnes_.size(); ++c) parNom_.emplace(colonnes_[c], c);
+    parNom_.emplace(column, colonnes_.size() - 1);
+  }
+}
+
+std::size_t MemoryRecordset::ColonneSansCasse(std::string_view column) const {
+  if (colonnes_.size() <= kEtroite) {
+    for (std::size_t c = 0; c < colonnes_.size(); ++c)
+      if (EgalSansCasse{}(colonnes_[c], column)) return c;
+    return kAucune;
+  }
+  const auto it = parNom_.find(column);
+  return it == parNom_.end() ? kAucune : it->second;
 }
 
 std::size_t MemoryRecordset::Colonne(std::string_view column, const char* usage) const {
   // The engine names its columns as the tables spell them: on a narrow table a plain
-  // comparison finds them before any hashing. Names are unique whatever their case, so an
+  // comparison finds them before any other. Names are unique whatever their case, so an
   // exact match is the one match.
-  constexpr std::size_t kEtroite = 8;
   if (colonnes_.size() <= kEtroite) {
-    for (std::size_t c = 0; c < colonnes_.size(); ++c)
-      if (colonnes_[c] == column) return c;
+    for (std::size_t c = 0; c < colonnes_.size(); ++c) {
+      const std::string& nom = colonnes_[c];
+      // Length and first letter set most names apart before any comparison of the rest.
+      if (nom.size() == column.size() && nom[0] == column[0] &&
+          std::memcmp(nom.data(), column.data(), nom.size()) == 0)
+        return c;
+    }
   }
-  const auto it = parNom_.find(column);
-  if (it == parNom_.end()) Faute(std::string(usage) + std::string(column));
-  return it->second;
+  const std::size_t c = ColonneSansCasse(column);
+  if (c == kAucune) Faute(std::string(usage) + std::string(column));
+  return c;
 }
 
 // ---- Position ---------------------------------------------------------------------------
@@ -187,6 +211,27 @@ void MemoryRecordset::FiltreTexte(std::string_view column, std::string_view text
 
 void MemoryRecordset::FiltreNombre(std::string_view column, double nombre) {
   ChercheNombre(Colonne(column, "filter on a missing column: "), nombre, tampon_);
+  Remplace(tampon_);
+}
+
+void MemoryRecordset::FiltreTextes(std::string_view column, const std::vector<std::string>& textes) {
+  const Index& ix = IndexTexte(Colonne(column, "filter on a missing column: "));
+  tampon_.clear();
+  const auto prend = [this](const Lignes& l) { tampon_.insert(tampon_.end(), l.begin(), l.end()); };
+  if (ix.parTexte.size() < textes.size()) {
+    // Few texts in the column (a handful of situations against a long list of codes): each
+    // is looked for among the texts asked.
+    for (const auto& [texte, lignes] : ix.parTexte)
+      if (std::find(textes.begin(), textes.end(), texte) != textes.end()) prend(lignes);
+  } else {
+    for (const std::string& t : textes) {
+      const auto it = ix.parTexte.find(std::string_view(t));
+      if (it != ix.parTexte.end()) prend(it->second);
+    }
+  }
+  // The rows in their order, each once, as the union of the equalities gives them.
+  std::sort(tampon_.begin(), tampon_.end());
+  tampon_.erase(std::unique(tampon_.begin(), tampon_.end()), tampon_.end());
   Remplace(tampon_);
 }
 

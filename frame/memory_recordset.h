@@ -21,6 +21,7 @@
 #define ORVALIS_FRAME_MEMORY_RECORDSET_H_
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -54,6 +55,8 @@ class MemoryRecordset final : public Recordset {
   // no criterion text: the same rows, position and faults as Filter with that criterion.
   void FiltreTexte(std::string_view column, std::string_view texte);
   void FiltreNombre(std::string_view column, double nombre);
+  // The filter "column = 'a' Or column = 'b' ..." likewise, for one text or more.
+  void FiltreTextes(std::string_view column, const std::vector<std::string>& textes);
 
  private:
   using Lignes = std::vector<std::uint32_t>;  // row numbers, ascending
@@ -73,16 +76,31 @@ class MemoryRecordset final : public Recordset {
     std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
   };
 
+  // Numbers hashed from their bits (0 and -0 are made one key before): cheaper than the
+  // library's hash of a double, which hashes its bytes.
+  struct HashNombre {
+    std::size_t operator()(double d) const {
+      std::uint64_t b = 0;
+      std::memcpy(&b, &d, sizeof b);
+      b ^= b >> 33;
+      b *= 0xff51afd7ed558ccdull;
+      b ^= b >> 33;
+      return static_cast<std::size_t>(b);
+    }
+  };
+
   // The indexes of one column, each built on its first use.
   struct Index {
     bool texteConstruit = false;
     bool nombreConstruit = false;
     std::unordered_map<std::string, Lignes, HashTexte, std::equal_to<>> parTexte;
-    std::unordered_map<double, Lignes> parNombre;  // numbers and numeric texts
+    std::unordered_map<double, Lignes, HashNombre> parNombre;  // numbers and numeric texts
     Lignes vrais, faux;                            // booleans, for bare numbers
   };
 
+  static constexpr std::size_t kAucune = static_cast<std::size_t>(-1);
   std::size_t Colonne(std::string_view column, const char* usage) const;
+  std::size_t ColonneSansCasse(std::string_view column) const;  // kAucune when absent
   std::size_t LigneCourante(std::string_view column) const;
   std::size_t Taille() const;  // rows under the present filter
 
@@ -96,7 +114,7 @@ class MemoryRecordset final : public Recordset {
   void Indexe(Index& ix, std::size_t col, std::uint32_t row, bool ajoute);
 
   std::vector<std::string> colonnes_;
-  std::unordered_map<std::string, std::size_t, HashSansCasse, EgalSansCasse> parNom_;
+  std::unordered_map<std::string, std::size_t, HashSansCasse, EgalSansCasse> parNom_;  // wide tables
   std::vector<std::vector<Value>> lignes_;
   std::vector<Index> index_;  // one per column
   bool filtre_ = false;

@@ -8,6 +8,7 @@
 #include <thread>
 #include <unordered_map>
 
+#include "frame/filtre_egalite.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "paie/mois_outils.h"
 
@@ -20,55 +21,85 @@ const std::vector<std::string> kColonnesCumuls = {"Idcumul",      "CodeCumul",
                                                   "PartSalarialeRappel", "PartPatronaleRappel"};
 
 // The employee's totals of the month, as the engine reads them (gRsCumuls) and as the
-// store keeps them. A capped total shows the smaller of its sum and its cap.
+// store keeps them. A capped total shows the smaller of its sum and its cap. The source is
+// built once per engine and set back to zero for each employee: the engine only reads it.
 class CumulsSalarie {
  public:
   explicit CumulsSalarie(const std::vector<Cumul>& cumuls)
-      : cumuls_(cumuls), rs_(NouveauRecordset(kColonnesCumuls)) {
-    for (const auto& c : cumuls) {
+      : cumuls_(cumuls), rs_(NouveauRecordset(kColonnesCumuls)), sommes_(cumuls.size()),
+        vus_(cumuls.size()), plafonnes_(cumuls.size()), ecrit_(cumuls.size(), false) {
+    for (std::size_t i = 0; i < cumuls.size(); ++i) {
+      const Cumul& c = cumuls[i];
       rs_->AddNew();
       rs_->SetField("Idcumul", Value(static_cast<double>(c.IdCumul)));
       rs_->SetField("CodeCumul", Value(c.CodeCumul));
       for (const char* col : {"PartSalariale", "PartPatronale", "PartSalarialeRappel", "PartPatronaleRappel"})
         rs_->SetField(col, Value(0.0));
-      sommes_[c.CodeCumul] = {0.0, 0.0};
-      vus_[c.CodeCumul] = {0.0, 0.0};
+      place_.try_emplace(c.CodeCumul, i);
     }
+    for (std::size_t i = 0; i < cumuls.size(); ++i)
+      if (!cumuls[i].plafondDe.empty()) plafonnes_[Place(cumuls[i].plafondDe)].push_back(i);
+    rs_->ClearFilter();
+  }
+
+  // Every total back to zero, the source unfiltered, as a new employee finds them.
+  void Recommence() {
+    for (std::size_t i : ecrits_) {
+      sommes_[i] = vus_[i] = {0.0, 0.0};
+      Ecrit(i, "PartSalariale", 0.0);
+      Ecrit(i, "PartPatronale", 0.0);
+      ecrit_[i] = false;
+    }
+    ecrits_.clear();
     rs_->ClearFilter();
   }
 
   const RsRef& Source() const { return rs_; }
   std::map<std::string, std::pair<double, double>> Valeurs() const {
-    return {vus_.begin(), vus_.end()};
+    std::map<std::string, std::pair<double, double>> v;
+    for (std::size_t i = 0; i < cumuls_.size(); ++i) v.emplace(cumuls_[i].CodeCumul, vus_[i]);
+    return v;
   }
 
   void Ajoute(const std::string& code, char part, double montant) {
-    auto& v = sommes_.at(code);
-    double& x = part == 'P' ? v.second : v.first;
+    const std::size_t i = Place(code);
+    double& x = Cote(sommes_[i], part);
     // Totals stay in cents: the sum of amounts already rounded, rounded again against drift.
     x = Arrondi(x + montant, 2);
-    Montre(code, part);
-    for (const auto& c : cumuls_)
-      if (c.plafondDe == code) Montre(c.CodeCumul, part);
+    Montre(i, part);
+    for (std::size_t j : plafonnes_[i]) Montre(j, part);
   }
 
  private:
-  void Montre(const std::string& code, char part) {
-    const Cumul& c = *std::find_if(cumuls_.begin(), cumuls_.end(),
-                                   [&](const Cumul& x) { return x.CodeCumul == code; });
-    auto cote = [part](std::pair<double, double>& p) -> double& { return part == 'P' ? p.second : p.first; };
-    double valeur = cote(sommes_.at(code));
+  static double& Cote(std::pair<double, double>& p, char part) { return part == 'P' ? p.second : p.first; }
+
+  // A code that no total has is the store's error: std::out_of_range, as a map's at().
+  std::size_t Place(const std::string& code) const { return place_.at(code); }
+
+  void Montre(std::size_t i, char part) {
+    const Cumul& c = cumuls_[i];
+    double valeur = Cote(sommes_[i], part);
     if (!c.plafondDe.empty())
-      valeur = std::min(valeur, Arrondi(cote(vus_.at(c.plafondDe)) * c.plafondTaux / 100, 2));
-    cote(vus_.at(code)) = valeur;
-    rs_->Filter("CodeCumul = '" + code + "'");
-    rs_->SetField(part == 'P' ? "PartPatronale" : "PartSalariale", Value(valeur));
+      valeur = std::min(valeur, Arrondi(Cote(vus_[Place(c.plafondDe)], part) * c.plafondTaux / 100, 2));
+    Cote(vus_[i], part) = valeur;
+    Ecrit(i, part == 'P' ? "PartPatronale" : "PartSalariale", valeur);
+    if (!ecrit_[i]) ecrits_.push_back(i);
+    ecrit_[i] = true;
+  }
+
+  void Ecrit(std::size_t i, const char* colonne, double valeur) {
+    FiltreCode(*rs_, "CodeCumul", cumuls_[i].CodeCumul);
+    rs_->SetField(colonne, Value(valeur));
     rs_->ClearFilter();
   }
 
   const std::vector<Cumul>& cumuls_;
   RsRef rs_;
-  std::unordered_map<std::string, std::pair<double, double>> sommes_, vus_;
+  std::unordered_map<std::string, std::size_t> place_;  // CodeCumul -> place in cumuls_
+  std::vector<std::pair<double, double>> sommes_, vus_;  // (S, P) by place
+  std::vector<std::vector<std::size_t>> plafonnes_;     // the totals capped by each one
+  std::vector<std::size_t> ecrits_;                     // the places written since the start
+  std::vector<bool> ecrit_;                             // by place: in ecrits_
 };
 
 // The record's own tables that the store does not hold yet: empty, so that a handler walking
@@ -94,86 +125,13 @@ double Montant(const LigneBulletin& l, const std::string& quoi) {
   return l.dMontantSalarial;
 }
 
-// A worker's own copy of a reference source: the lookups move a source's filter and
-// position, so engines on different threads never read the same one.
-RsRef CopieSource(const RsRef& rs) {
-  if (!rs) return rs;
-  const std::vector<std::string> colonnes = rs->Columns();
-  RsRef copie = NouveauRecordset(colonnes);
-  for (const auto& ligne : rs->Rows()) {
-    copie->AddNew();
-    for (std::size_t i = 0; i < colonnes.size(); ++i) copie->SetField(colonnes[i], ligne[i]);
-  }
-  copie->ClearFilter();
-  return copie;
-}
-
-// The reference sources of the month, copied for one worker; the rest of the month (plan,
-// totals, employees) is only read, and each employee goes to one worker alone.
-DonneesMois SourcesDuTravailleur(const DonneesMois& d) {
-  DonneesMois w;
-  w.mois = d.mois;
-  w.constantesFixes = CopieSource(d.constantesFixes);
-  w.constantesFixesHistorique = CopieSource(d.constantesFixesHistorique);
-  w.constantes = CopieSource(d.constantes);
-  w.constantesHistorique = CopieSource(d.constantesHistorique);
-  w.taux = CopieSource(d.taux);
-  w.baremePAS = CopieSource(d.baremePAS);
-  return w;
-}
-
-// The payslips of the month on several threads: each worker takes the next employee not
-// yet taken and writes the payslip at the employee's place.
-void CalculeEnParallele(const DonneesMois& d, std::vector<Bulletin>& bulletins,
-                        const Progression& progression, unsigned travailleurs) {
-  const std::size_t total = d.salaries.size();
-  std::atomic<std::size_t> suivant{0};
-  std::mutex verrou;  // the progression and the first error
-  std::size_t faits = 0;
-  std::exception_ptr erreur;
-  auto travail = [&] {
-    try {
-      MethodeCalculG_Nouv m;
-      PrepareMoteur(m, SourcesDuTravailleur(d));
-      for (std::size_t i; (i = suivant.fetch_add(1)) < total;) {
-        bulletins[i] = CalculeSalarie(m, d, d.salaries[i]);
-        if (!progression) continue;
-        std::lock_guard<std::mutex> garde(verrou);
-        progression(++faits, total);
-      }
-    } catch (...) {
-      // Nothing of the month is written then: the others stop at their next employee.
-      suivant.store(total);
-      std::lock_guard<std::mutex> garde(verrou);
-      if (!erreur) erreur = std::current_exception();
-    }
-  };
-  {
-    std::vector<std::jthread> fils;
-    for (unsigned t = 0; t < travailleurs; ++t) fils.emplace_back(travail);
-  }
-  if (erreur) std::rethrow_exception(erreur);
-}
-
-}  // namespace
-
-unsigned CoeursDisponibles() { return std::max(1u, std::thread::hardware_concurrency()); }
-
-void PrepareMoteur(MethodeCalculG_Nouv& m, const DonneesMois& d) {
-  m.gPeriodeEncours = PeriodeEncours(d.mois);
-  m.gRsConstantesFixes = d.constantesFixes;
-  m.gRsConstantesFixesHistorique = d.constantesFixesHistorique;
-  m.gRsConstantes = d.constantes;
-  m.gRsConstantesHistorique = d.constantesHistorique;
-  m.gRsTaux = d.taux;
-  m.gRsBaremeTauxPAS = d.baremePAS;
-}
-
-Bulletin CalculeSalarie(MethodeCalculG_Nouv& m, const DonneesMois& d, const Salarie& s) {
+// One employee's payslip, on the engine's totals source set back to zero.
+Bulletin BulletinDe(MethodeCalculG_Nouv& m, const DonneesMois& d, const Salarie& s,
+                    CumulsSalarie& cumuls) {
   // A handler may move the pay month (waiting days of another month): each employee starts
   // on the month of the run.
   m.gPeriodeEncours = PeriodeEncours(d.mois);
-  CumulsSalarie cumuls(d.cumuls);
+  cumuls.Recommence();
   m.gRsCumuls = cumuls.Source();
   m.gRsCumulsHistoriqueSal = s.cumulsHisto;
 
@@ -255,6 +213,87 @@ Bulletin CalculeSalarie(MethodeCalculG_Nouv& m, const DonneesMois& d, const Sala
   return b;
 }
 
+// A worker's own copy of a reference source: the lookups move a source's filter and
+// position, so engines on different threads never read the same one.
+RsRef CopieSource(const RsRef& rs) {
+  if (!rs) return rs;
+  const std::vector<std::string> colonnes = rs->Columns();
+  RsRef copie = NouveauRecordset(colonnes);
+  for (const auto& ligne : rs->Rows()) {
+    copie->AddNew();
+    for (std::size_t i = 0; i < colonnes.size(); ++i) copie->SetField(colonnes[i], ligne[i]);
+  }
+  copie->ClearFilter();
+  return copie;
+}
+
+// The reference sources of the month, copied for one worker; the rest of the month (plan,
+// totals, employees) is only read, and each employee goes to one worker alone.
+DonneesMois SourcesDuTravailleur(const DonneesMois& d) {
+  DonneesMois w;
+  w.mois = d.mois;
+  w.constantesFixes = CopieSource(d.constantesFixes);
+  w.constantesFixesHistorique = CopieSource(d.constantesFixesHistorique);
+  w.constantes = CopieSource(d.constantes);
+  w.constantesHistorique = CopieSource(d.constantesHistorique);
+  w.taux = CopieSource(d.taux);
+  w.baremePAS = CopieSource(d.baremePAS);
+  return w;
+}
+
+// The payslips of the month on several threads: each worker takes the next employee not
+// yet taken and writes the payslip at the employee's place.
+void CalculeEnParallele(const DonneesMois& d, std::vector<Bulletin>& bulletins,
+                        const Progression& progression, unsigned travailleurs) {
+  const std::size_t total = d.salaries.size();
+  std::atomic<std::size_t> suivant{0};
+  std::mutex verrou;  // the progression and the first error
+  std::size_t faits = 0;
+  std::exception_ptr erreur;
+  auto travail = [&] {
+    try {
+      MethodeCalculG_Nouv m;
+      PrepareMoteur(m, SourcesDuTravailleur(d));
+      CumulsSalarie cumuls(d.cumuls);
+      for (std::size_t i; (i = suivant.fetch_add(1)) < total;) {
+        bulletins[i] = BulletinDe(m, d, d.salaries[i], cumuls);
+        if (!progression) continue;
+        std::lock_guard<std::mutex> garde(verrou);
+        progression(++faits, total);
+      }
+    } catch (...) {
+      // Nothing of the month is written then: the others stop at their next employee.
+      suivant.store(total);
+      std::lock_guard<std::mutex> garde(verrou);
+      if (!erreur) erreur = std::current_exception();
+    }
+  };
+  {
+    std::vector<std::jthread> fils;
+    for (unsigned t = 0; t < travailleurs; ++t) fils.emplace_back(travail);
+  }
+  if (erreur) std::rethrow_exception(erreur);
+}
+
+}  // namespace
+
+unsigned CoeursDisponibles() { return std::max(1u, std::thread::hardware_concurrency()); }
+
+void PrepareMoteur(MethodeCalculG_Nouv& m, const DonneesMois& d) {
+  m.gPeriodeEncours = PeriodeEncours(d.mois);
+  m.gRsConstantesFixes = d.constantesFixes;
+  m.gRsConstantesFixesHistorique = d.constantesFixesHistorique;
+  m.gRsConstantes = d.constantes;
+  m.gRsConstantesHistorique = d.constantesHistorique;
+  m.gRsTaux = d.taux;
+  m.gRsBaremeTauxPAS = d.baremePAS;
+}
+
+Bulletin CalculeSalarie(MethodeCalculG_Nouv& m, const DonneesMois& d, const Salarie& s) {
+  CumulsSalarie cumuls(d.cumuls);
+  return BulletinDe(m, d, s, cumuls);
+}
+
 Totaux TotauxBulletin(const Bulletin& b) {
   Totaux t;
   double gainsHorsBrut = 0;
@@ -296,9 +335,10 @@ ResultatMois CalculeMois(const DonneesMois& d, const Progression& progression,
   } else {
     MethodeCalculG_Nouv m;
     PrepareMoteur(m, d);
+    CumulsSalarie cumuls(d.cumuls);
     res.bulletins.reserve(d.salaries.size());
     for (std::size_t i = 0; i < d.salaries.size(); ++i) {
-      res.bulletins.push_back(CalculeSalarie(m, d, d.salaries[i]));
+      res.bulletins.push_back(BulletinDe(m, d, d.salaries[i], cumuls));
       if (progression) progression(i + 1, d.salaries.size());
     }
   }

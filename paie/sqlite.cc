@@ -66,7 +66,9 @@ class CurseurSqlite final : public Curseur {
 }  // namespace
 
 Base::Base(const std::string& chemin, bool creer) {
-  const int drapeaux = SQLITE_OPEN_READWRITE | (creer ? SQLITE_OPEN_CREATE : 0);
+  // A connection serves one thread at a time: SQLite need not lock it on every call.
+  const int drapeaux =
+      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (creer ? SQLITE_OPEN_CREATE : 0);
   if (sqlite3_open_v2(chemin.c_str(), &db_, drapeaux, nullptr) != SQLITE_OK) {
     const std::string message = db_ ? sqlite3_errmsg(db_) : "out of memory";
     sqlite3_close(db_);

@@ -91,5 +91,33 @@ TEST_F(TravailleursTest, ProgressionUneFoisParSalarie) {
   for (std::size_t i = 0; i < 7; ++i) EXPECT_EQ(r.bulletins[i].lIdSalarie, 1001 + static_cast<int>(i));
 }
 
+// An engine pays its employees one after the other on one totals source set back to zero:
+// each payslip is the one the employee gets alone on a fresh engine.
+TEST_F(TravailleursTest, ChaqueBulletinCommeSeul) {
+  auto m = OuvreMagasinSqlite(Commune(12));
+  const DonneesMois d = m->ChargeMois("202403");
+  const ResultatMois r = CalculeMois(d, {}, 1);
+  ASSERT_EQ(r.bulletins.size(), d.salaries.size());
+  for (std::size_t i = 0; i < d.salaries.size(); ++i) {
+    SCOPED_TRACE(i);
+    MethodeCalculG_Nouv seul;
+    PrepareMoteur(seul, d);
+    const Bulletin b = CalculeSalarie(seul, d, d.salaries[i]);
+    const Bulletin& mois = r.bulletins[i];
+    EXPECT_EQ(mois.cumuls, b.cumuls);
+    EXPECT_EQ(mois.echecs, b.echecs);
+    ASSERT_EQ(mois.lignes.size(), b.lignes.size());
+    for (std::size_t l = 0; l < b.lignes.size(); ++l) {
+      EXPECT_EQ(mois.lignes[l].sCodeRubrique, b.lignes[l].sCodeRubrique);
+      EXPECT_EQ(mois.lignes[l].dBase, b.lignes[l].dBase);
+      EXPECT_EQ(mois.lignes[l].dMontantSalarial, b.lignes[l].dMontantSalarial);
+      EXPECT_EQ(mois.lignes[l].dMontantPatronal, b.lignes[l].dMontantPatronal);
+    }
+    EXPECT_EQ(mois.totaux.netPaye, b.totaux.netPaye);
+  }
+  // The totals are not all zero: the comparison sees what an employee feeds them.
+  EXPECT_GT(r.bulletins.back().cumuls.at("NETIMPOS").first, 0);
+}
+
 }  // namespace
 }  // namespace orvalis::paie

@@ -96,17 +96,17 @@ void Impute(VarCalculSalarie& s, const Regle& regle, Int16 iJours,
   s.dNBJ_AutreAbsenceNS = s.dNBJ_AutreAbsenceNS + DN;
 }
 
-std::string CritereAutresAbsences() {
+std::vector<std::string> CodesAutresAbsences() {
   std::vector<std::string> codes;
   for (const Regle& r : kRegles) codes.emplace_back(r.code);
-  return periode::FiltreCodes(codes);
+  return codes;
 }
 
 }  // namespace
 
 void MethodeCalculG_Nouv::CalculNombreJourAutresAbsences_NouvelleGestion(VarCalculSalarie& s) {
-  static const std::string kCritere = CritereAutresAbsences();
-  periode::ParcourtSituations(s, kCritere, [&](Recordset& rs) {
+  static const std::vector<std::string> kCodes = CodesAutresAbsences();
+  periode::ParcourtSituations(s, kCodes, [&](Recordset& rs) {
     const periode::Situation x = periode::LitSituation(rs);
     Int16 iIATA = 0, iIATN = 0, iINTA = 0, iINTN = 0;
     CalculNombreJour_Situation(x.sCode, x.sDateDebut, x.sDateFin, s, iIATA, iIATN, iINTA, iINTN);

@@ -49,8 +49,9 @@ void MethodeCalculG_Nouv::CalculNombreJourCarence(VarCalculSalarie& InfosSalarie
   iIATN = 0;
   iINTA = 0;
   iINTN = 0;
+  static const std::vector<std::string> kCodesDemiTraitement = {"DT", "LD", "GD", "CD", "DO50"};
   periode::ParcourtSituations(
-      s, periode::FiltreCodes({"DT", "LD", "GD", "CD", "DO50"}), [&](Recordset& rs) {
+      s, kCodesDemiTraitement, [&](Recordset& rs) {
         const periode::Situation x = periode::LitSituation(rs);
         CalculNombreJourCarence_Situation("", x.sDateDebut, x.sDateFin, s, sDateDebutCarence,
                                           sDateFinCarence, iIATA, iIATN, iINTA, iINTN);

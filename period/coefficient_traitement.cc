@@ -19,7 +19,8 @@ double Quotite(double dTaux) {
 // The days of therapeutic part-time of the month count as full time.
 double CalculCoefficientAbsencesTpt(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries,
                                     double dCoefficient) {
-  // The missing blank before the fourth OR is how hosts have always sent it.
+  static const std::vector<std::string> kCodes = {"MI", "M6", "M7", "M8", "M9", "MV"};
+  // The missing blank before the fourth OR is how hosts have always received it.
   static const std::string kCritere =
       "CodeSituationExceptionnelle = 'MI' OR CodeSituationExceptionnelle = 'M6' OR "
       "CodeSituationExceptionnelle = 'M7'OR CodeSituationExceptionnelle = 'M8' OR "
@@ -30,7 +31,7 @@ double CalculCoefficientAbsencesTpt(MethodeCalculG_Nouv& m, VarCalculSalarie& In
   if (bSansLigne) return dCoefficient;
 
   double dJours = 0;
-  periode::ParcourtSituations(InfosSalaries, kCritere, [&](Recordset& rs) {
+  periode::ParcourtSituations(InfosSalaries, kCodes, [&](Recordset& rs) {
     const std::string& sPeriode = m.gPeriodeEncours;
     Date dDebut = LireDate("01" + sPeriode.substr(sPeriode.size() < 8 ? 0 : sPeriode.size() - 8));
     const std::string sFinMois = TexteDate(DernierJourDuMois(LireDate(sPeriode)));
@@ -48,7 +49,7 @@ double CalculCoefficientAbsencesTpt(MethodeCalculG_Nouv& m, VarCalculSalarie& In
       if (DiffJours(dFin, dFinSituation) < 0) dFin = dFinSituation;
     }
     dJours = dJours + static_cast<double>(DiffJours(dDebut, dFin)) + k;
-  });
+  }, kCritere);
   return ((30 - dJours) * dCoefficient + dJours) / 30;
 }
 

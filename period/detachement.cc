@@ -12,7 +12,8 @@ bool EstDetachement(const std::string& sCode) { return sCode == "D" || sCode == 
 
 void MethodeCalculG_Nouv::CalculNombreJourDetachement_NouvelleGestion(VarCalculSalarie& s) {
   Int16 iNbEnregistrements = 0;
-  periode::ParcourtSituations(s, periode::FiltreCodes({"D", "M"}), [&](Recordset& rs) {
+  static const std::vector<std::string> kCodes = {"D", "M"};
+  periode::ParcourtSituations(s, kCodes, [&](Recordset& rs) {
     Int16 iIATA = 0, iIATN = 0, iINTA = 0, iINTN = 0;
     iNbEnregistrements = iNbEnregistrements + 1;
     const periode::Situation x = periode::LitSituation(rs);
@@ -29,7 +30,8 @@ void MethodeCalculG_Nouv::CalculNombreJourDetachement_NouvelleGestion(VarCalculS
 void MethodeCalculG_Nouv::CalculNombreJourDetachementSansPension_NouvelleGestion(
     VarCalculSalarie& s) {
   Int16 iINTN = 0;
-  periode::ParcourtSituations(s, periode::FiltreCodes({"P"}), [&](Recordset& rs) {
+  static const std::vector<std::string> kCodes = {"P"};
+  periode::ParcourtSituations(s, kCodes, [&](Recordset& rs) {
     Int16 iIATA = 0, iIATN = 0, iINTA = 0;
     const periode::Situation x = periode::LitSituation(rs);
     CalculNombreJour_Situation(x.sCode, x.sDateDebut, x.sDateFin, s, iIATA, iIATN, iINTA, iINTN);

@@ -120,9 +120,8 @@ void MethodeCalculG_Nouv::CalculNombreJourTptNonSubroge(VarCalculSalarie& InfosS
   constexpr std::size_t kNbBandes = std::size(kBandes);
   Compte comptes[kNbBandes];
 
-  const std::string sCritere =
-      periode::FiltreCodes({"MINS", "M6NS", "M7NS", "M8NS", "M9NS", "MVNS"});
-  periode::ParcourtSituations(InfosSalaries, sCritere, [&](Recordset& rs) {
+  static const std::vector<std::string> kCodes = {"MINS", "M6NS", "M7NS", "M8NS", "M9NS", "MVNS"};
+  periode::ParcourtSituations(InfosSalaries, kCodes, [&](Recordset& rs) {
     const periode::Situation x = periode::LitSituation(rs);
     // A variable quotity goes to the band of the same percentage, when there is one.
     Int16 iTaux = 0;

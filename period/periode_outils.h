@@ -67,10 +67,24 @@ struct Situation {
 };
 Situation LitSituation(Recordset& rs);
 
-// Walks the rows of rsSituationsExceptionnelles that pass sCritere, in order, then clears
-// the filter. Nothing is done when the source holds no row. A missing source is a fault.
-void ParcourtSituations(VarCalculSalarie& InfosSalaries, const std::string& sCritere,
-                        const std::function<void(Recordset&)>& pourChaque);
+// Filters rsSituationsExceptionnelles on the rows whose code is one of `codes`; null when
+// the source holds no row (nothing done then). A missing source is a fault. A host's own
+// source receives the criterion FiltreCodes(codes), or sCritere when one is given.
+Recordset* FiltreSituations(VarCalculSalarie& InfosSalaries, const std::vector<std::string>& codes,
+                            const std::string& sCritere);
+
+// Walks those rows in order, then clears the filter.
+template <class PourChaque>
+void ParcourtSituations(VarCalculSalarie& InfosSalaries, const std::vector<std::string>& codes,
+                        PourChaque&& pourChaque, const std::string& sCritere = {}) {
+  Recordset* rs = FiltreSituations(InfosSalaries, codes, sCritere);
+  if (rs == nullptr) return;
+  while (!rs->Eof()) {
+    pourChaque(*rs);
+    rs->MoveNext();
+  }
+  rs->ClearFilter();
+}
 
 }  // namespace orvalis::periode
 

@@ -30,7 +30,7 @@ void EcritFamille(VarCalculSalarie& InfosSalaries, const Famille& f, Int16 iIATA
 
 void CompteFamille(MethodeCalculG_Nouv& m, VarCalculSalarie& InfosSalaries, const Famille& f) {
   Int16 iIATA = 0, iIATN = 0, iINTA = 0, iINTN = 0;
-  ParcourtSituations(InfosSalaries, FiltreCodes(f.codes), [&](Recordset& rs) {
+  ParcourtSituations(InfosSalaries, f.codes, [&](Recordset& rs) {
     const Situation x = LitSituation(rs);
     m.CalculNombreJour_Situation(x.sCode, x.sDateDebut, x.sDateFin, InfosSalaries, iIATA, iIATN,
                                  iINTA, iINTN);

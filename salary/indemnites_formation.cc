@@ -23,7 +23,8 @@ Int16 JoursDeFormation(MoteurCalcul& m, VarCalculSalarie& InfosSalaries) {
   const std::string sDebutMois = TexteDate(dDebutMois);
   const std::string sFinMois = TexteDate(DernierJourDuMois(dDebutMois));
   Int16 iJours = 0;
-  periode::ParcourtSituations(InfosSalaries, periode::FiltreCodes({"C", "N"}), [&](Recordset& rs) {
+  static const std::vector<std::string> kCodes = {"C", "N"};
+  periode::ParcourtSituations(InfosSalaries, kCodes, [&](Recordset& rs) {
     const periode::Situation sit = periode::LitSituation(rs);
     const std::string sFin = sit.sDateFin.empty() ? sFinMois : sit.sDateFin;
     iJours += iNbJoursBase30Commun(sit.sDateDebut, sFin, sDebutMois, sFinMois);

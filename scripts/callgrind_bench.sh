@@ -24,3 +24,15 @@ run constantes-balayage 'BM_dRechercheValeur_Constantes<kBalayage>/1000' MoteurC
 run taux 'BM_dRechercheValeurTaux<kMemoire>/1000' MoteurCalcul::dRechercheValeurTaux
 run cumuls 'BM_dRechercheValeurCumul<kMemoire>/1000' MoteurCalcul::dRechercheValeurCumul
 run arrondi 'BM_Arrondi2' 'orvalis::Arrondi('
+
+# The month of 1,000 agents through the command line on one thread: the store's read and
+# write beside the computing (instructions of each, the whole run above them).
+commune="$out-commune.db"
+rm -f "$commune"
+"$1/orvalis" demo "$commune" --agents 1000 >/dev/null
+valgrind --tool=callgrind --callgrind-out-file="$out-mois.out" \
+  "$1/orvalis" paie "$commune" 2024-03 --jobs 1 >/dev/null 2>&1
+annote="$(callgrind_annotate --inclusive=yes "$out-mois.out")"
+grep -m1 "PROGRAM TOTALS" <<<"$annote"
+grep -E "^ *[0-9,]+ \( *[0-9.]+%\)  [^ ]*\.cc:.*(ChargeMois|paie::CalculeMois|EcritMois)\(" <<<"$annote" |
+  sed -E 's/ +\[.*//; s/\((std|orvalis)::.*//' | awk -F'::' '!vu[$NF]++'

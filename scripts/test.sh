@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
 # Builds the engine, its tools and tests, and passes every test twice: once as built for
 # the hosts, once under AddressSanitizer and UndefinedBehaviorSanitizer, where any report
-# fails the run. The Python module is built on the first build and its tests run with pytest.
-# Both runs replay the fuzz inputs kept in fuzz/. The store's tests run over SQLite and over
-# a throw-away PostgreSQL server that the test program starts in a temporary folder and
-# removes when it ends (scripts/serveur_pg_test.sh; skipped, saying so, without PostgreSQL).
-# Then each fuzz target runs for a short time under the sanitizers (scripts/fuzz.sh; skipped
-# without clang++).
+# fails the run; the tests of several threads also run under ThreadSanitizer
+# (scripts/tsan.sh). The Python module is built on the first build and its tests run with
+# pytest. Both runs replay the fuzz inputs kept in fuzz/. The store's tests run over SQLite
+# and over a throw-away PostgreSQL server that the test program starts in a temporary folder
+# and removes when it ends (scripts/serveur_pg_test.sh; skipped, saying so, without
+# PostgreSQL). Then each fuzz target runs for a short time under the sanitizers
+# (scripts/fuzz.sh; skipped without clang++).
 #
 #   ORVALIS_FUZZ_SECONDS=N  seconds per fuzz target (default 25; 0 skips the fuzz step)
+#   ORVALIS_TSAN=0          skips the ThreadSanitizer step
 #   ORVALIS_COVERAGE=1      also builds with gcov and prints coverage per subsystem
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -46,6 +48,11 @@ cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DORVALIS_SANITIZE=ON -DOR
 cmake --build build-sanitize -j"$jobs"
 ASAN_OPTIONS=detect_leaks=1:halt_on_error=1 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
   ctest --test-dir build-sanitize --output-on-failure -j"$jobs"
+
+# The threads' tests once more under ThreadSanitizer (a third build of the engine).
+if [ "${ORVALIS_TSAN:-1}" != 0 ]; then
+  ./scripts/tsan.sh "${cache[@]}"
+fi
 
 if [ "${ORVALIS_FUZZ_SECONDS:-25}" != 0 ]; then
   ./scripts/fuzz.sh
