@@ -129,6 +129,10 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
     if (paie->parsed()) {
       auto m = OuvreMagasinSqlite(store);
       const std::string cle = CleMois(mois);
+      // Told before the month is computed, not after.
+      if (m->LectureSeule())
+        throw ErreurMagasin(store + ": the store is read-only; nothing was computed",
+                            ErreurMagasin::Cause::Acces);
       if (!remplacer && m->MoisCalcule(cle))
         throw ErreurMagasin(fmt::format("month {} is already computed (--replace computes it again)",
                                         AfficheMois(cle)));
@@ -149,7 +153,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
     return 0;
   } catch (const ErreurMagasin& e) {
     erreurs << "orvalis: " << e.what() << '\n';
-    return 1;
+    return e.cause() == ErreurMagasin::Cause::Acces ? kStatutAcces : kStatutEntree;
   }
 }
 

@@ -2,7 +2,10 @@
 // transaction, reading it back for the payslips.
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <ctime>
+#include <stdexcept>
+#include <strings.h>
 #include <unordered_map>
 
 #include <fmt/format.h>
@@ -24,11 +27,65 @@ using tools::ValeurChamp;
 // Months of reference values and totals handed to the engine as history.
 constexpr int kMoisHistorique = 24;
 
-const char* const kTables[] = {"employeur", "valeurs_fixes", "constantes", "taux", "bareme_pas",
-                               "cumuls", "preparations", "rubriques", "rubrique_cumuls",
-                               "salaries", "situations", "situations_exceptionnelles",
-                               "variables", "salarie_rubriques", "calculs", "bulletins",
-                               "lignes", "cumuls_salarie"};
+// Every table the run reads or writes, with the columns it names: a store missing one is
+// refused before anything is read, with the table and the column.
+struct TableLue {
+  const char* nom;
+  std::vector<const char*> colonnes;
+};
+const std::vector<TableLue>& Tables() {
+  static const std::vector<TableLue> t = {
+      {"employeur", {"id", "nom", "siret", "adresse"}},
+      {"valeurs_fixes", {"colonne", "depuis", "valeur"}},
+      {"constantes", {"IdConstante", "CodeConstante", "depuis", "Valeur", "TauxMontant"}},
+      {"taux", {"IdTaux", "IdOrganisme", "CodeTaux", "depuis", "PartSalariale", "PartPatronale"}},
+      {"bareme_pas", {"TypeBareme", "depuis", "BorneInf", "BorneSup", "TauxNeutre"}},
+      {"cumuls", {"IdCumul", "CodeCumul", "libelle", "plafond_de", "plafond_taux"}},
+      {"preparations", {"ordre", "methode"}},
+      {"rubriques", {"lIdRubrique", "sCodeRubrique", "sDesignation", "methode", "ordre", "groupe",
+                     "nature"}},
+      {"rubrique_cumuls", {"lIdRubrique", "CodeCumul", "montant", "part", "signe"}},
+      {"salaries", {"lIdSalarie", "sMatricule", "nom", "prenom", "emploi", "adresse"}},
+      {"situations", {"lIdSalarie", "depuis", "champ", "valeur"}},
+      {"situations_exceptionnelles",
+       {"lIdSalarie", "CodeSituationExceptionnelle", "DateDebutSituationExceptionnelle",
+        "DateFinSituationExceptionnelle", "Quotite"}},
+      {"variables", {"lIdSalarie", "mois", "IdVariable", "CodeVariable", "Valeur", "Dateeffet",
+                     "TauxMontant"}},
+      {"salarie_rubriques", {"lIdSalarie", "lIdRubrique"}},
+      {"calculs", {"mois", "date_calcul", "version", "salaries", "lignes", "echecs", "secondes"}},
+      {"bulletins", {"mois", "lIdSalarie", "sTypeModele", "sCodeCategorie", "dIndiceMajoreM",
+                     "dBonification", "dTauxPoste", "dHeuresMois", "brut",
+                     "cotisations_salariales", "net_avant_impot", "net_imposable", "base_pas",
+                     "taux_pas", "pas", "net_paye", "cotisations_patronales", "cout_employeur",
+                     "echecs"}},
+      {"lignes", {"mois", "lIdSalarie", "ordre", "lIdRubrique", "sCodeRubrique", "sDesignation",
+                  "groupe", "nature", "methode", "ok", "dBase", "dValeurCoefficient",
+                  "dTauxSalarial", "dMontantSalarial", "dTauxPatronal", "dMontantPatronal",
+                  "sValeurBase", "sCoeffBase", "sValeurTauxSalarial", "sValeurTauxPatronal"}},
+      {"cumuls_salarie",
+       {"mois", "lIdSalarie", "IdCumul", "CodeCumul", "PartSalariale", "PartPatronale"}},
+  };
+  return t;
+}
+
+const TableLue& TableNommee(const std::string& nom) {
+  for (const auto& t : Tables())
+    if (nom == t.nom) return t;
+  throw std::logic_error("no table " + nom);
+}
+
+// "INSERT INTO t (a, b, ...) VALUES (?1, ?2, ...)" over the columns the run writes, so that a
+// column a host added with a default does not shift the values.
+std::string Insertion(const std::string& table) {
+  const TableLue& t = TableNommee(table);
+  std::string cols, valeurs;
+  for (std::size_t i = 0; i < t.colonnes.size(); ++i) {
+    cols += (i ? ", " : "") + std::string(t.colonnes[i]);
+    valeurs += (i ? ", ?" : "?") + std::to_string(i + 1);
+  }
+  return "INSERT INTO " + table + " (" + cols + ") VALUES (" + valeurs + ")";
+}
 
 [[noreturn]] void Erreur(const std::string& table, const std::string& ligne,
                          const std::string& colonne, const std::string& message) {
@@ -76,7 +133,7 @@ ValeurChamp ValeurDeCellule(const Champ<R>& c, const Requete& r, int i, const st
       if (!nombre) faux("an integer");
       const double d = r.Reel(i);
       const double max = c.type == TypeChamp::I16 ? 32767 : 2147483647.0;
-      if (d != static_cast<double>(static_cast<long long>(d)) || d > max || d < -max - 1)
+      if (!(d <= max && d >= -max - 1) || d != std::trunc(d))
         faux(c.type == TypeChamp::I16 ? "a 16-bit integer" : "a 32-bit integer");
       if (c.type == TypeChamp::I16) return Int16(static_cast<std::int16_t>(d));
       return Int32(static_cast<std::int32_t>(d));
@@ -127,8 +184,7 @@ class MagasinSqlite final : public Magasin {
   }
 
   DonneesMois ChargeMois(const std::string& texteMois) override {
-    for (const char* t : kTables)
-      if (!base_.TableExiste(t)) throw ErreurMagasin(fmt::format("table '{}' is missing", t));
+    VerifieTables();
     DonneesMois d;
     d.mois = CleMois(texteMois);
     d.employeur = LitEmployeur();
@@ -149,10 +205,25 @@ class MagasinSqlite final : public Magasin {
     return r.Pas();
   }
 
+  bool LectureSeule() override { return base_.LectureSeule(); }
+
   void EcritMois(const ResultatMois& res, bool remplacer) override;
   ResultatMois LitMois(const std::string& mois) override;
 
  private:
+  void VerifieTables() {
+    for (const auto& t : Tables()) {
+      if (!base_.TableExiste(t.nom)) throw ErreurMagasin(fmt::format("table '{}' is missing", t.nom));
+      Requete r = base_.Prepare(fmt::format("SELECT name FROM pragma_table_info('{}')", t.nom));
+      std::vector<std::string> presentes;
+      while (r.Pas()) presentes.push_back(r.Texte(0));
+      for (const char* c : t.colonnes)
+        if (std::none_of(presentes.begin(), presentes.end(),
+                         [&](const std::string& p) { return strcasecmp(p.c_str(), c) == 0; }))
+          throw ErreurMagasin(fmt::format("table '{}': column '{}' is missing", t.nom, c));
+    }
+  }
+
   Employeur LitEmployeur() {
     Requete r = base_.Prepare("SELECT nom, siret, adresse FROM employeur WHERE id = 1");
     if (!r.Pas()) throw ErreurMagasin("table 'employeur': no row (id 1)");
@@ -499,20 +570,14 @@ void MagasinSqlite::EcritMois(const ResultatMois& res, bool remplacer) {
     const std::time_t t = std::time(nullptr);
     char date[32];
     std::strftime(date, sizeof date, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&t));
-    Requete c = base_.Prepare(
-        "INSERT INTO calculs (mois, date_calcul, version, salaries, lignes, echecs, secondes) "
-        "VALUES (?, ?, ?, ?, ?, ?, ?)");
+    Requete c = base_.Prepare(Insertion("calculs"));
     c.Lie(1, mois).Lie(2, std::string(date)).Lie(3, std::string(tools::Version()));
     c.Lie(4, static_cast<long long>(res.bulletins.size())).Lie(5, static_cast<long long>(res.lignes));
     c.Lie(6, static_cast<long long>(res.echecs)).Lie(7, res.secondes).Execute();
 
-    Requete b = base_.Prepare(
-        "INSERT INTO bulletins VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, "
-        "?14, ?15, ?16, ?17, ?18, ?19)");
-    Requete l = base_.Prepare(
-        "INSERT INTO lignes VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, "
-        "?15, ?16, ?17, ?18, ?19, ?20)");
-    Requete k = base_.Prepare("INSERT INTO cumuls_salarie VALUES (?, ?, ?, ?, ?, ?)");
+    Requete b = base_.Prepare(Insertion("bulletins"));
+    Requete l = base_.Prepare(Insertion("lignes"));
+    Requete k = base_.Prepare(Insertion("cumuls_salarie"));
     Requete idCumul = base_.Prepare("SELECT IdCumul, CodeCumul FROM cumuls");
     std::unordered_map<std::string, long long> ids;
     while (idCumul.Pas()) ids[idCumul.Texte(1)] = idCumul.Entier(0);
@@ -541,9 +606,20 @@ void MagasinSqlite::EcritMois(const ResultatMois& res, bool remplacer) {
     }
     base_.Execute("COMMIT");
   } catch (...) {
-    base_.Execute("ROLLBACK");
+    base_.AnnuleTransaction();
     throw;
   }
+}
+
+// The payslip of employee `id` in a month read back; a row of `table` for an employee with no
+// payslip that month (a store edited by hand) is an error naming it.
+Bulletin& BulletinLu(ResultatMois& res, const std::unordered_map<long long, std::size_t>& parId,
+                   long long id, const char* table) {
+  const auto it = parId.find(id);
+  if (it == parId.end())
+    Erreur(table, fmt::format("month {}", res.mois), "lIdSalarie",
+           fmt::format("employee {} has no payslip that month", id));
+  return res.bulletins[it->second];
 }
 
 ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
@@ -617,7 +693,7 @@ ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
       y.dMontantSalarial = r.Reel(12); y.dTauxPatronal = r.Reel(13); y.dMontantPatronal = r.Reel(14);
       y.sValeurBase = r.Texte(15); y.sCoeffBase = r.Texte(16); y.sValeurTauxSalarial = r.Texte(17);
       y.sValeurTauxPatronal = r.Texte(18);
-      res.bulletins[parId.at(r.Entier(0))].lignes.push_back(std::move(y));
+      BulletinLu(res, parId, r.Entier(0), "lignes").lignes.push_back(std::move(y));
     }
   }
   {
@@ -626,7 +702,7 @@ ResultatMois MagasinSqlite::LitMois(const std::string& texteMois) {
         "WHERE mois = ?");
     r.Lie(1, res.mois);
     while (r.Pas())
-      res.bulletins[parId.at(r.Entier(0))].cumuls[r.Texte(1)] = {r.Reel(2), r.Reel(3)};
+      BulletinLu(res, parId, r.Entier(0), "cumuls_salarie").cumuls[r.Texte(1)] = {r.Reel(2), r.Reel(3)};
   }
   return res;
 }

@@ -46,6 +46,20 @@ TEST_F(MagasinTest, VersionPlusRecenteRefusee) {
   }
 }
 
+// A version this program never writes: refused, not read as an old store to upgrade.
+TEST_F(MagasinTest, VersionNegativeRefusee) {
+  const std::string c = Chemin("negatif.db");
+  OuvreMagasinSqlite(c, true);
+  Sql(c, "PRAGMA user_version = -3");
+  try {
+    OuvreMagasinSqlite(c);
+    FAIL();
+  } catch (const ErreurMagasin& e) {
+    EXPECT_EQ(std::string(e.what()), c + ": not an Orvalis store (schema version -3)");
+  }
+  EXPECT_EQ(Nombre(c, "PRAGMA user_version"), -3);
+}
+
 TEST_F(MagasinTest, FichierQuiNEstPasUnMagasin) {
   const std::string c = Chemin("autre.db");
   {
@@ -66,6 +80,38 @@ TEST_F(MagasinTest, TableManquante) {
   EXPECT_EQ(Refus(c), "table 'taux' is missing");
 }
 
+TEST_F(MagasinTest, ColonneManquante) {
+  const std::string c = Commune(1);
+  Sql(c, "ALTER TABLE taux DROP COLUMN PartSalariale");
+  EXPECT_EQ(Refus(c), "table 'taux': column 'PartSalariale' is missing");
+}
+
+// A column a host added with a default: the month is written beside it.
+TEST_F(MagasinTest, ColonneAjouteeAuxResultats) {
+  const std::string c = Commune(1);
+  Sql(c, "ALTER TABLE lignes ADD COLUMN controle TEXT DEFAULT 'a revoir'");
+  auto m = OuvreMagasinSqlite(c);
+  m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
+  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM lignes WHERE controle = 'a revoir'"),
+            Nombre(c, "SELECT count(*) FROM salarie_rubriques"));
+}
+
+// Lines of an employee without a payslip that month (a store edited by hand): named.
+TEST_F(MagasinTest, LigneSansBulletinALaRelecture) {
+  const std::string c = Commune(1);
+  auto m = OuvreMagasinSqlite(c);
+  m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
+  Sql(c, "PRAGMA foreign_keys = OFF; UPDATE lignes SET lIdSalarie = 77 WHERE ordre = "
+         "(SELECT min(ordre) FROM lignes)");
+  try {
+    m->LitMois("2024-03");
+    FAIL();
+  } catch (const ErreurMagasin& e) {
+    EXPECT_EQ(std::string(e.what()), "table 'lignes', month 202403, column 'lIdSalarie': "
+                                     "employee 77 has no payslip that month");
+  }
+}
+
 TEST_F(MagasinTest, MauvaisTypeDansUneSituation) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE situations SET valeur = 'quatre cents' WHERE champ = 'dIndiceMajoreM'");
@@ -78,6 +124,15 @@ TEST_F(MagasinTest, EntierSeizeBitsHorsLimites) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE situations SET valeur = 32768 WHERE champ = 'iEnfant_ACharge'");
   EXPECT_TRUE(Contient(Refus(c), "iEnfant_ACharge needs a 16-bit integer, got the integer 32768"));
+}
+
+// Past any integer: refused by its size, not converted.
+TEST_F(MagasinTest, NombreImmenseDansUnChampEntier) {
+  const std::string c = Commune(1);
+  Sql(c, "UPDATE situations SET valeur = 1e300 WHERE champ = 'iEnfant_ACharge'");
+  EXPECT_TRUE(Contient(Refus(c), "iEnfant_ACharge needs a 16-bit integer, got the number 1e+300"));
+  Sql(c, "UPDATE situations SET valeur = 2.5 WHERE champ = 'iEnfant_ACharge'");
+  EXPECT_TRUE(Contient(Refus(c), "iEnfant_ACharge needs a 16-bit integer, got the number 2.5"));
 }
 
 TEST_F(MagasinTest, ValeurNonNumeriqueDansLesTaux) {

@@ -143,6 +143,9 @@ void PrepareSchema(Base& base, const std::string& chemin) {
   if (version > kVersionSchema)
     throw ErreurMagasin(chemin + ": schema version " + std::to_string(version) +
                         " is newer than this program's (" + std::to_string(kVersionSchema) + ")");
+  // A negative version was never written by this program: the file is not one of its stores.
+  if (version < 0)
+    throw ErreurMagasin(chemin + ": not an Orvalis store (schema version " + std::to_string(version) + ")");
   if (version == 0) {
     Requete r = base.Prepare("SELECT count(*) FROM sqlite_master");
     if (r.Pas() && r.Entier(0) > 0) throw ErreurMagasin(chemin + ": not an Orvalis store (no schema version)");
@@ -154,7 +157,7 @@ void PrepareSchema(Base& base, const std::string& chemin) {
     base.Execute("PRAGMA user_version = " + std::to_string(kVersionSchema));
     base.Execute("COMMIT");
   } catch (...) {
-    base.Execute("ROLLBACK");
+    base.AnnuleTransaction();
     throw;
   }
 }

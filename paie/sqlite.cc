@@ -6,33 +6,56 @@ namespace orvalis::paie {
 
 namespace {
 
-[[noreturn]] void Echec(sqlite3* db, const std::string& quoi) {
-  throw ErreurMagasin(quoi + ": " + (db ? sqlite3_errmsg(db) : "out of memory"));
+// A failed call, in words a payroll officer can act on, with the store's file it concerns.
+// What the file lets us do now (locked, full, read-only, failing) is told apart from what
+// it holds.
+[[noreturn]] void Echec(sqlite3* db) {
+  if (db == nullptr) throw ErreurMagasin("out of memory", ErreurMagasin::Cause::Acces);
+  const char* fichier = sqlite3_db_filename(db, "main");
+  const std::string lieu = fichier && *fichier ? std::string(fichier) + ": " : std::string("store: ");
+  const std::string detail = sqlite3_errmsg(db);
+  std::string quoi;
+  switch (sqlite3_errcode(db)) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      quoi = "the store is locked by another process (waited " +
+             std::to_string(kAttenteVerrouMs / 1000) + " s); nothing was written";
+      break;
+    case SQLITE_FULL: quoi = "the disk or the store is full; nothing was written"; break;
+    case SQLITE_READONLY: quoi = "the store is read-only; nothing was written"; break;
+    case SQLITE_IOERR: quoi = "input/output error on the store"; break;
+    case SQLITE_CANTOPEN: quoi = "cannot make a file beside the store (its folder read-only?); nothing was written"; break;
+    case SQLITE_PERM: quoi = "access to the store refused"; break;
+    case SQLITE_NOMEM: quoi = "out of memory"; break;
+    default: throw ErreurMagasin(lieu + detail);
+  }
+  throw ErreurMagasin(lieu + quoi + " (" + detail + ")", ErreurMagasin::Cause::Acces);
 }
 
 }  // namespace
 
 Base::Base(const std::string& chemin, bool creer) {
-  const int drapeaux = SQLITE_OPEN_READWRITE | (creer ? SQLITE_OPEN_CREATE : 0);
+  const int drapeaux = SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | (creer ? SQLITE_OPEN_CREATE : 0);
   if (sqlite3_open_v2(chemin.c_str(), &db_, drapeaux, nullptr) != SQLITE_OK) {
     const std::string message = db_ ? sqlite3_errmsg(db_) : "out of memory";
     sqlite3_close(db_);
     db_ = nullptr;
     throw ErreurMagasin(chemin + ": cannot open: " + message);
   }
-  sqlite3_busy_timeout(db_, 5000);
+  sqlite3_busy_timeout(db_, kAttenteVerrouMs);
   Execute("PRAGMA foreign_keys = ON");
 }
 
 Base::~Base() { sqlite3_close(db_); }
 
 void Base::Execute(const std::string& sql) {
-  char* erreur = nullptr;
-  if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &erreur) != SQLITE_OK) {
-    std::string message = erreur ? erreur : sqlite3_errmsg(db_);
-    sqlite3_free(erreur);
-    throw ErreurMagasin(message);
-  }
+  if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) Echec(db_);
+}
+
+bool Base::LectureSeule() { return sqlite3_db_readonly(db_, "main") == 1; }
+
+void Base::AnnuleTransaction() noexcept {
+  if (sqlite3_get_autocommit(db_) == 0) sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 Requete Base::Prepare(const std::string& sql) { return Requete(db_, sql); }
@@ -44,26 +67,26 @@ bool Base::TableExiste(const std::string& nom) {
 }
 
 Requete::Requete(sqlite3* db, const std::string& sql) : db_(db) {
-  if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st_, nullptr) != SQLITE_OK) Echec(db, "SQL");
+  if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st_, nullptr) != SQLITE_OK) Echec(db);
 }
 
 Requete::~Requete() { sqlite3_finalize(st_); }
 
 Requete& Requete::Lie(int i, double v) {
-  if (sqlite3_bind_double(st_, i, v) != SQLITE_OK) Echec(db_, "bind");
+  if (sqlite3_bind_double(st_, i, v) != SQLITE_OK) Echec(db_);
   return *this;
 }
 Requete& Requete::Lie(int i, long long v) {
-  if (sqlite3_bind_int64(st_, i, v) != SQLITE_OK) Echec(db_, "bind");
+  if (sqlite3_bind_int64(st_, i, v) != SQLITE_OK) Echec(db_);
   return *this;
 }
 Requete& Requete::Lie(int i, const std::string& v) {
   if (sqlite3_bind_text(st_, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT) != SQLITE_OK)
-    Echec(db_, "bind");
+    Echec(db_);
   return *this;
 }
 Requete& Requete::LieNull(int i) {
-  if (sqlite3_bind_null(st_, i) != SQLITE_OK) Echec(db_, "bind");
+  if (sqlite3_bind_null(st_, i) != SQLITE_OK) Echec(db_);
   return *this;
 }
 Requete& Requete::Lie(int i, const Value& v) {
@@ -72,8 +95,7 @@ Requete& Requete::Lie(int i, const Value& v) {
   if (v.EstBooleen()) return Lie(i, v.Booleen() ? 1 : 0);
   // Whole numbers are stored as integers: SQLite keeps them so, and types read them so.
   const double d = v.Double();
-  if (d == static_cast<double>(static_cast<long long>(d)) && std::fabs(d) < 9e15)
-    return Lie(i, static_cast<long long>(d));
+  if (std::fabs(d) < 9e15 && d == std::trunc(d)) return Lie(i, static_cast<long long>(d));
   return Lie(i, d);
 }
 
@@ -81,7 +103,7 @@ bool Requete::Pas() {
   const int rc = sqlite3_step(st_);
   if (rc == SQLITE_ROW) return true;
   if (rc == SQLITE_DONE) return false;
-  Echec(db_, "SQL");
+  Echec(db_);
 }
 
 void Requete::Execute() {

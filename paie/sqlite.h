@@ -12,17 +12,28 @@
 namespace orvalis::paie {
 
 // A store that cannot be read or written as asked: the message names the table, row and
-// column when there is one.
+// column when there is one, else the store's file.
 class ErreurMagasin : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  // What stopped the run: what was asked or what the store holds (the input), or the store's
+  // file as the system lets it be used now (locked, full, read-only, failing).
+  enum class Cause { Donnees, Acces };
+  explicit ErreurMagasin(const std::string& message, Cause cause = Cause::Donnees)
+      : std::runtime_error(message), cause_(cause) {}
+  Cause cause() const { return cause_; }
+
+ private:
+  Cause cause_;
 };
 
 class Requete;
 
+inline constexpr int kAttenteVerrouMs = 5000;
+
 class Base {
  public:
-  // Opens (and creates when asked) the file; a busy store waits up to five seconds.
+  // Opens (and creates when asked) the file, or the SQLite URI ("file:c.db?mode=ro"); a busy
+  // store waits up to kAttenteVerrouMs before the call fails.
   Base(const std::string& chemin, bool creer);
   ~Base();
   Base(const Base&) = delete;
@@ -32,6 +43,11 @@ class Base {
   Requete Prepare(const std::string& sql);
   sqlite3* Poignee() { return db_; }
   bool TableExiste(const std::string& nom);
+  // The file can be read only (its mode, or opened so).
+  bool LectureSeule();
+  // Rolls back the open transaction, if SQLite has not already done so (a full disk or an
+  // I/O error may end it), keeping quiet: the error being handled is the one to tell.
+  void AnnuleTransaction() noexcept;
 
  private:
   sqlite3* db_ = nullptr;
