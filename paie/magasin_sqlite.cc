@@ -345,6 +345,10 @@ class MagasinSqlite final : public Magasin {
       Cumul c{static_cast<std::int32_t>(r.Entier(0)), TexteOuVide(r, 1, "cumuls", ligne),
               TexteOuVide(r, 2, "cumuls", ligne), TexteOuVide(r, 3, "cumuls", ligne), 0};
       c.plafondTaux = Nombre(r, 4, "cumuls", ligne).NombreOuZero();
+      // A cap is a share of the other total.
+      if (!(c.plafondTaux >= 0 && c.plafondTaux <= 100))
+        Erreur("cumuls", ligne, "plafond_taux",
+               fmt::format("a percentage from 0 to 100, got {}", c.plafondTaux));
       d.cumuls.push_back(std::move(c));
     }
     for (const auto& c : d.cumuls)

@@ -184,6 +184,16 @@ TEST_F(MagasinTest, PlafondSurUnCumulInconnu) {
                           ", column 'plafond_de': no total 'TRAITEMENT'");
 }
 
+TEST_F(MagasinTest, PlafondHorsPourcentage) {
+  const std::string c = Commune(1);
+  Sql(c, "UPDATE cumuls SET plafond_taux = 1e300 WHERE plafond_de IS NOT NULL");
+  const long long id = Nombre(c, "SELECT IdCumul FROM cumuls WHERE plafond_de IS NOT NULL");
+  EXPECT_EQ(Refus(c), "table 'cumuls', IdCumul " + std::to_string(id) +
+                          ", column 'plafond_taux': a percentage from 0 to 100, got 1e+300");
+  Sql(c, "UPDATE cumuls SET plafond_taux = 100 WHERE plafond_de IS NOT NULL");
+  EXPECT_EQ(Refus(c), "(no error)");
+}
+
 TEST_F(MagasinTest, ValeursEnVigueurAuMois) {
   const std::string c = Commune(1);
   // The point changes in July: March reads the January value, its history both.
