@@ -175,9 +175,10 @@ Bulletin CalculeSalarie(MethodeCalculG_Nouv& m, const DonneesMois& d, const Sala
     l.methode = p.methode;
     // The payslip shows cents: amounts are rounded once, here, and the totals add them. A line
     // with an amount out of bounds fails as a line the engine refused.
-    const bool chiffree = EnCentimes(r.dBase, l.dBase) & EnCentimes(r.dMontantSalarial, l.dMontantSalarial) &
-                          EnCentimes(r.dMontantPatronal, l.dMontantPatronal);
-    l.ok = ok && chiffree;
+    const bool base = EnCentimes(r.dBase, l.dBase);
+    const bool salarial = EnCentimes(r.dMontantSalarial, l.dMontantSalarial);
+    const bool patronal = EnCentimes(r.dMontantPatronal, l.dMontantPatronal);
+    l.ok = ok && base && salarial && patronal;
     l.dValeurCoefficient = r.dValeurCoefficient;
     l.dTauxSalarial = r.dTauxSalarial;
     l.dTauxPatronal = r.dTauxPatronal;
