@@ -7,15 +7,7 @@
 namespace orvalis::paie {
 namespace {
 
-class CommandeTest : public DossierTest {
- protected:
-  int Lance(const std::vector<std::string>& args) {
-    sortie_.str("");
-    erreurs_.str("");
-    return CommandePaie(args, sortie_, erreurs_, false);
-  }
-  std::ostringstream sortie_, erreurs_;
-};
+class CommandeTest : public DossierTest {};
 
 TEST_F(CommandeTest, DemoPuisMoisPuisBulletins) {
   const std::string c = Chemin("c.db");

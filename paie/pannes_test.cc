@@ -205,12 +205,6 @@ class DisquePleinTest : public PannesTest {
     sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(LimitePages));
     PannesTest::TearDown();
   }
-  int Lance(const std::vector<std::string>& args) {
-    sortie_.str("");
-    erreurs_.str("");
-    return CommandePaie(args, sortie_, erreurs_, false);
-  }
-  std::ostringstream sortie_, erreurs_;
 };
 
 TEST_F(DisquePleinTest, LeMoisNEntrePasEtRienNEstEcrit) {
