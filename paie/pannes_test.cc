@@ -24,10 +24,17 @@ namespace {
 
 using Horloge = std::chrono::steady_clock;
 
-// `orvalis` run as a host runs it, in its own process, standard error kept in a file.
+// `orvalis` run as a host runs it, in its own process, standard error kept in a file, with
+// `env` added to the environment.
 class Processus {
  public:
-  Processus(const std::vector<std::string>& args, const std::string& erreurs) {
+  Processus(const std::vector<std::string>& args, const std::string& erreurs,
+            const std::vector<std::string>& env = {}) {
+    std::vector<std::string> environnement(env);
+    for (char** e = environ; *e != nullptr; ++e) environnement.emplace_back(*e);
+    std::vector<char*> envp;
+    for (auto& e : environnement) envp.push_back(e.data());
+    envp.push_back(nullptr);
     std::vector<std::string> tous = {ORVALIS_CLI};
     tous.insert(tous.end(), args.begin(), args.end());
     std::vector<char*> argv;
@@ -37,7 +44,7 @@ class Processus {
     posix_spawn_file_actions_init(&fa);
     posix_spawn_file_actions_addopen(&fa, 1, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&fa, 2, erreurs.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    if (posix_spawn(&pid_, ORVALIS_CLI, &fa, nullptr, argv.data(), environ) != 0) pid_ = -1;
+    if (posix_spawn(&pid_, ORVALIS_CLI, &fa, nullptr, argv.data(), envp.data()) != 0) pid_ = -1;
     posix_spawn_file_actions_destroy(&fa);
   }
   ~Processus() {
@@ -53,13 +60,13 @@ class Processus {
     if (!fini_ && waitpid(pid_, &statut_, WNOHANG) == pid_) fini_ = true;
     return fini_;
   }
-  // Killed by SIGKILL; false when it had ended already.
+  // Killed by SIGKILL; false when it had ended already (even just before the signal).
   bool Tue() {
     if (Fini()) return false;
     kill(pid_, SIGKILL);
     waitpid(pid_, &statut_, 0);
     fini_ = true;
-    return true;
+    return WIFSIGNALED(statut_);
   }
   // Its exit status, waiting up to `limite`; -1 if it is still running then (it is killed).
   int Attend(std::chrono::seconds limite) {
@@ -73,7 +80,6 @@ class Processus {
     }
     return WIFEXITED(statut_) ? WEXITSTATUS(statut_) : -1;
   }
-  bool Signale() const { return fini_ && WIFSIGNALED(statut_); }
 
  private:
   pid_t pid_ = -1;
@@ -138,37 +144,43 @@ TEST_F(PannesTest, VingtArretsBrutaux) {
 
   int tues = 0, absents = 0, entiers = 0;
   for (int k = 0; k < 20; ++k) {
+    // A run that ended before its kill is tried again on a fresh copy, sooner: up to four
+    // times, each at half the delay.
     const std::string c = Chemin("k" + std::to_string(k) + ".db");
-    std::filesystem::copy_file(modele, c);
-    Processus p({"paie", c, "2024-03"}, Chemin("k.txt"));
-    ASSERT_TRUE(p.Lance());
-    if (k < 14) {
-      // Spread over the whole run: 1/15 of its time, 2/15, ...
-      std::this_thread::sleep_for(duree * (k + 1) / 15);
-    } else {
-      // Within the write: once the transaction's journal stands, 0 to 250 ms later.
-      const auto limite = Horloge::now() + std::chrono::seconds(60);
-      while (!std::filesystem::exists(c + "-journal") && !p.Fini() && Horloge::now() < limite)
-        std::this_thread::sleep_for(std::chrono::microseconds(100));
-      std::this_thread::sleep_for(std::chrono::milliseconds(10 * (k - 14) * (k - 14)));
+    bool tue = false;
+    for (int essai = 0; essai < 4 && !tue; ++essai) {
+      RetireMagasin(c);
+      std::filesystem::copy_file(modele, c);
+      // In a coverage build, a kill while the process writes its counts would spoil the
+      // build's: those of the killed processes go to the test's folder.
+      Processus p({"paie", c, "2024-03"}, Chemin("k.txt"), {"GCOV_PREFIX=" + Chemin("gcov")});
+      ASSERT_TRUE(p.Lance());
+      if (k < 14) {
+        // Spread over the whole run: 1/15 of its time, 2/15, ...
+        std::this_thread::sleep_for(duree * (k + 1) / 15 / (1 << essai));
+      } else {
+        // Within the write: once the transaction's journal stands, 0 to 250 ms later.
+        const auto limite = Horloge::now() + std::chrono::seconds(60);
+        while (!std::filesystem::exists(c + "-journal") && !p.Fini() && Horloge::now() < limite)
+          std::this_thread::sleep_for(std::chrono::microseconds(100));
+        std::this_thread::sleep_for(std::chrono::milliseconds(10 * (k - 14) * (k - 14)) / (1 << essai));
+      }
+      tue = p.Tue();
+      EXPECT_EQ(Integrite(c), "ok") << "kill " << k;
+      const Etat e = Mois(c);
+      EXPECT_TRUE(e == vide || e == complet)
+          << "kill " << k << ": " << e.calculs << " months, " << e.bulletins << " payslips, "
+          << e.lignes << " lines, " << e.cumuls << " totals";
+      if (tue) (e == vide ? absents : entiers)++;
     }
-    if (p.Tue()) {
-      ++tues;
-      EXPECT_TRUE(p.Signale());
-    }
-    EXPECT_EQ(Integrite(c), "ok") << "kill " << k;
-    const Etat e = Mois(c);
-    EXPECT_TRUE(e == vide || e == complet)
-        << "kill " << k << ": " << e.calculs << " months, " << e.bulletins << " payslips, "
-        << e.lignes << " lines, " << e.cumuls << " totals";
-    (e == vide ? absents : entiers)++;
+    tues += tue;
   }
   RecordProperty("tues", tues);
   RecordProperty("absents", absents);
-  // Most kills caught the run alive; some before the month was in, none half-way.
-  EXPECT_GE(tues, 12);
+  // The kills caught the run alive; some before the month was in, none half-way.
+  EXPECT_GE(tues, 18);
   EXPECT_GE(absents, 1);
-  EXPECT_EQ(absents + entiers, 20);
+  EXPECT_EQ(absents + entiers, tues);
 
   // A store killed before its month is written computes it whole when run again.
   const std::string c = Chemin("k0.db");
