@@ -3,6 +3,9 @@
 # results (unit tests and golden cases; not the fuzz replays, which only check that nothing
 # breaks) and prints line and branch coverage per subsystem, then in total. The HTML report goes to build-coverage/coverage/index.html.
 # Branches: those of thrown exceptions and those the compiler cannot reach are left out.
+# Then the floor: the engine (its seven subsystems together) must keep at least
+# ORVALIS_FLOOR_LINES % of its lines and ORVALIS_FLOOR_BRANCHES % of its branches, or the
+# script fails (defaults below; docs/robustness.md says where they come from).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc 2>/dev/null || echo 2)
@@ -24,9 +27,12 @@ gcovr "${options[@]}" --json build-coverage/coverage/coverage.json \
   --html-details build-coverage/coverage/index.html >/dev/null
 
 # One line per subsystem: lines and branches covered of those instrumented.
-python3 - build-coverage/coverage/coverage.json <<'PY'
+python3 - build-coverage/coverage/coverage.json "${ORVALIS_FLOOR_LINES:-96.0}" \
+  "${ORVALIS_FLOOR_BRANCHES:-89.0}" <<'PY'
 import json, sys
 data = json.load(open(sys.argv[1]))
+floor_lines, floor_branches = float(sys.argv[2]), float(sys.argv[3])
+ENGINE = {"frame", "generic", "period", "salary", "absences", "contributions", "historic"}
 tot = {}
 for f in data["files"]:
     sub = f["file"].split("/")[0] if "/" in f["file"] else "."
@@ -48,4 +54,15 @@ for sub in sorted(tot):
     all_ = [x + y for x, y in zip(all_, l)]
     print(f"{sub:<16}{l[1]:>7}/{l[0]:<6} {pc(l[1], l[0])}{l[3]:>8}/{l[2]:<6} {pc(l[3], l[2])}")
 print(f"{'total':<16}{all_[1]:>7}/{all_[0]:<6} {pc(all_[1], all_[0])}{all_[3]:>8}/{all_[2]:<6} {pc(all_[3], all_[2])}")
+eng = [0, 0, 0, 0]
+for sub in ENGINE & tot.keys():
+    eng = [x + y for x, y in zip(eng, tot[sub])]
+print(f"{'engine':<16}{eng[1]:>7}/{eng[0]:<6} {pc(eng[1], eng[0])}{eng[3]:>8}/{eng[2]:<6} {pc(eng[3], eng[2])}")
+lines = 100.0 * eng[1] / eng[0] if eng[0] else 0.0
+branches = 100.0 * eng[3] / eng[2] if eng[2] else 0.0
+if lines < floor_lines or branches < floor_branches:
+    print(f"coverage: the engine is below its floor ({lines:.1f}% of lines for {floor_lines}%, "
+          f"{branches:.1f}% of branches for {floor_branches}%)", file=sys.stderr)
+    sys.exit(1)
+print(f"coverage: the engine keeps its floor ({floor_lines}% of lines, {floor_branches}% of branches)")
 PY

@@ -6,7 +6,8 @@
 # for a short time under the sanitizers (scripts/fuzz.sh; skipped without clang++).
 #
 #   ORVALIS_FUZZ_SECONDS=N  seconds per fuzz target (default 25; 0 skips the fuzz step)
-#   ORVALIS_COVERAGE=1      also builds with gcov and prints coverage per subsystem
+#   ORVALIS_COVERAGE=1      also builds with gcov, prints coverage per subsystem and fails
+#                           when the engine's falls below its floor (scripts/coverage.sh)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/setup.sh
