@@ -325,6 +325,30 @@ TEST_F(MemoryRecordsetCriteres, BlanksAreOptionalAroundPieces) {
   EXPECT_EQ(Codes("Mois = 202401And Code = 'A'"), (V{"A"}));
 }
 
+TEST_F(MemoryRecordsetCriteres, ColumnBetweenBrackets) {
+  EXPECT_EQ(Codes("[Code] = 'A'"), (V{"A"}));
+  EXPECT_EQ(Codes("[id] = 6 Or [MOIS] = '202401'"), (V{"A", "B"}));
+  for (const char* c : {"[] = 'A'", "[Code = 'A'", "[Code]= "}) EXPECT_THROW(rs->Filter(c), Fault) << c;
+  // Any text between brackets names a column, blanks included.
+  EXPECT_EQ(TexteFaute([&] { rs->Filter("[Co de] = 'A'"); }), "filter on a missing column: Co de");
+}
+
+// A number in the criterion finds a text cell holding the same number, written with an
+// exponent, a sign or blanks; an exponent without digits or a text past 64 characters is
+// no number.
+TEST(MemoryRecordsetFilter, NumberFindsNumericTextsWithAnExponent) {
+  RsRef rs = Table({"Code", "Id"}, {{"E", "85e-1"},
+                                    {"F", " 85E-1 "},
+                                    {"G", "8.5e"},
+                                    {"H", "+8.5"},
+                                    {"I", "0.085E+2"},
+                                    {"J", "8.5e+"},
+                                    {"K", "8.5" + std::string(70, '0')}});
+  rs->Filter("Id = 8.5");
+  // 85e-1 = 8.5; 0.085E+2 = 8.5.
+  EXPECT_EQ(Parcours(*rs, "Code"), (V{"E", "F", "H", "I"}));
+}
+
 TEST_F(MemoryRecordsetCriteres, OrWithRepeatedRowsGivesEachRowOnce) {
   EXPECT_EQ(Codes("Code = 'A' Or Id = 5 Or Code = 'B'"), (V{"A", "B"}));
 }
