@@ -224,11 +224,11 @@ std::string EcritBulletins(const ResultatMois& mois, const std::string& dossier)
   namespace fs = std::filesystem;
   std::error_code ec;
   fs::create_directories(dossier, ec);
-  if (ec) throw ErreurMagasin(dossier + ": cannot create: " + ec.message());
+  if (ec) throw ErreurMagasin(dossier + ": cannot create: " + ec.message(), ErreurMagasin::Cause::Acces);
   auto ecrit = [&](const fs::path& p, const std::string& texte) {
     std::ofstream f(p, std::ios::binary);
     f << texte;
-    if (!f.flush()) throw ErreurMagasin(p.string() + ": cannot write");
+    if (!f.flush()) throw ErreurMagasin(p.string() + ": cannot write", ErreurMagasin::Cause::Acces);
   };
   for (const auto& b : mois.bulletins) ecrit(fs::path(dossier) / NomFichier(b), BulletinHtml(mois, b));
   const fs::path index = fs::path(dossier) / "index.html";

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <exception>
 #include <mutex>
 #include <thread>
@@ -119,6 +120,22 @@ void TablesVides(VarCalculSalarie& v) {
   v.RsPlafondIrcantecPeriodes = NouveauRecordset(plafonds);
 }
 
+// No pay amount reaches ten thousand billion: one that does comes from a value of the store
+// gone wrong. Below it, amounts round to cents and any number of them sum and round again
+// without leaving the range of the rounding.
+constexpr double kMontantMax = 1e13;
+
+// The amount in cents into `centimes`; false, and the amount as it came, when it is not a
+// finite amount below the bound.
+bool EnCentimes(double montant, double& centimes) {
+  if (!(std::fabs(montant) < kMontantMax)) {
+    centimes = montant;
+    return false;
+  }
+  centimes = Arrondi(montant, 2);
+  return true;
+}
+
 double Montant(const LigneBulletin& l, const std::string& quoi) {
   if (quoi == "BASE") return l.dBase;
   if (quoi == "PATRONAL") return l.dMontantPatronal;
@@ -181,19 +198,20 @@ Bulletin BulletinDe(MethodeCalculG_Nouv& m, const DonneesMois& d, const Salarie&
     l.groupe = p.groupe;
     l.nature = p.nature;
     l.methode = p.methode;
-    l.ok = ok;
-    // The payslip shows cents: amounts are rounded once, here, and the totals add them.
-    l.dBase = Arrondi(r.dBase, 2);
+    // The payslip shows cents: amounts are rounded once, here, and the totals add them. A line
+    // with an amount out of bounds fails as a line the engine refused.
+    const bool base = EnCentimes(r.dBase, l.dBase);
+    const bool salarial = EnCentimes(r.dMontantSalarial, l.dMontantSalarial);
+    const bool patronal = EnCentimes(r.dMontantPatronal, l.dMontantPatronal);
+    l.ok = ok && base && salarial && patronal;
     l.dValeurCoefficient = r.dValeurCoefficient;
     l.dTauxSalarial = r.dTauxSalarial;
-    l.dMontantSalarial = Arrondi(r.dMontantSalarial, 2);
     l.dTauxPatronal = r.dTauxPatronal;
-    l.dMontantPatronal = Arrondi(r.dMontantPatronal, 2);
     l.sValeurBase = r.sValeurBase;
     l.sCoeffBase = r.sCoeffBase;
     l.sValeurTauxSalarial = r.sValeurTauxSalarial;
     l.sValeurTauxPatronal = r.sValeurTauxPatronal;
-    if (ok)
+    if (l.ok)
       for (const auto& a : p.alimente) cumuls.Ajoute(a.CodeCumul, a.part, a.signe * Montant(l, a.montant));
     else
       ++b.echecs;

@@ -128,6 +128,27 @@ TEST_F(CalculMoisTest, UneLigneQuiEchoueEstGardeeEtNeCompteDansAucunTotal) {
   EXPECT_TRUE(Ligne(b, "CSGNDED")->ok);
 }
 
+// An amount of ten thousand billion or more (a store's value gone wrong) fails its line, kept
+// as it came; the lines after it run and the totals stay in cents. Just below, it is paid.
+TEST_F(CalculMoisTest, MontantHorsBornesFaitEchouerSaLigne) {
+  const std::string c = CommuneTraitementFixe(2);
+  Sql(c, "UPDATE variables SET Valeur = 1e13 WHERE lIdSalarie = 1001 AND mois = '202403';"
+         "UPDATE variables SET Valeur = 9999999999999 WHERE lIdSalarie = 1002 AND mois = '202403'");
+  const ResultatMois r = Mois(c, "2024-03");
+  const Bulletin& a = *BulletinDe(r, 1001);
+  EXPECT_FALSE(Ligne(a, "TRAITIND")->ok);
+  EXPECT_DOUBLE_EQ(Ligne(a, "TRAITIND")->dMontantSalarial, 1e13);
+  EXPECT_GE(a.echecs, 1);
+  // CNRACL runs on a treatment total the failed line did not feed: 0.
+  EXPECT_TRUE(Ligne(a, "CNRACL")->ok);
+  EXPECT_DOUBLE_EQ(Ligne(a, "CNRACL")->dBase, 0);
+  const Bulletin& b = *BulletinDe(r, 1002);
+  EXPECT_TRUE(Ligne(b, "TRAITIND")->ok);
+  EXPECT_DOUBLE_EQ(Ligne(b, "TRAITIND")->dMontantSalarial, 9999999999999);
+  // 9,999,999,999,999 x 11.10 % = 1,109,999,999,999.889: 1,109,999,999,999.89.
+  EXPECT_DOUBLE_EQ(Ligne(b, "CNRACL")->dMontantSalarial, 1109999999999.89);
+}
+
 TEST_F(CalculMoisTest, CumulsReportesDeFevrierAMars) {
   const std::string c = CommuneTraitementFixe();
   // A line reading last month's treatment total: 0 in February, 1801.73 in March.

@@ -219,6 +219,10 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
         PaiePostgres(store, cle, travail, sortie);
       } else {
         auto m = OuvreMagasinSqlite(store);
+        // Told before the month is computed, not after.
+        if (m->LectureSeule())
+          throw ErreurMagasin(affiche + ": the store is read-only; nothing was computed",
+                              ErreurMagasin::Cause::Acces);
         if (!remplacer && m->MoisCalcule(cle))
           throw ErreurMagasin(fmt::format("month {} is already computed (--replace computes it again)",
                                           AfficheMois(cle)));
@@ -238,7 +242,7 @@ int CommandePaie(const std::vector<std::string>& arguments, std::ostream& sortie
     return 0;
   } catch (const ErreurMagasin& e) {
     erreurs << "orvalis: " << SansMotDePasse(SansMotDePasse(e.what(), store), destination) << '\n';
-    return 1;
+    return e.cause() == ErreurMagasin::Cause::Acces ? kStatutAcces : kStatutEntree;
   }
 }
 

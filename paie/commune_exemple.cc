@@ -496,7 +496,7 @@ void CreeCommuneExemple(const std::string& chemin, int agents) {
     for (int n = 0; n < agents; ++n) EcritAgent(base, e, n);
     base.Execute("COMMIT");
   } catch (...) {
-    base.Execute("ROLLBACK");
+    base.Annule();
     throw;
   }
 }

@@ -23,6 +23,8 @@ class Magasin {
   virtual DonneesMois ChargeMois(const std::string& mois) = 0;
   // True when the month is published (computed whole).
   virtual bool MoisCalcule(const std::string& mois) = 0;
+  // The store can only be read (its file's mode, or a URI "file:...?mode=ro").
+  virtual bool LectureSeule() = 0;
   // Writes the month whole, in one transaction, or nothing. A month already written is an
   // error unless `remplacer`, which replaces it in the same transaction.
   virtual void EcritMois(const ResultatMois& r, bool remplacer) = 0;

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <ctime>
 #include <optional>
+#include <stdexcept>
+#include <strings.h>
 #include <unordered_map>
 
 #include <fmt/format.h>
@@ -27,11 +29,47 @@ using tools::ValeurChamp;
 // Months of reference values and totals handed to the engine as history.
 constexpr int kMoisHistorique = 24;
 
-const char* const kTables[] = {"employeur", "valeurs_fixes", "constantes", "taux", "bareme_pas",
-                               "cumuls", "preparations", "rubriques", "rubrique_cumuls",
-                               "salaries", "situations", "situations_exceptionnelles",
-                               "variables", "salarie_rubriques", "calculs", "bulletins",
-                               "lignes", "cumuls_salarie"};
+// Every table the run reads or writes, with the columns it names: a store missing one is
+// refused before anything is read, with the table and the column.
+struct TableLue {
+  const char* nom;
+  std::vector<const char*> colonnes;
+};
+const std::vector<TableLue>& Tables() {
+  static const std::vector<TableLue> t = {
+      {"employeur", {"id", "nom", "siret", "adresse"}},
+      {"valeurs_fixes", {"colonne", "depuis", "valeur"}},
+      {"constantes", {"IdConstante", "CodeConstante", "depuis", "Valeur", "TauxMontant"}},
+      {"taux", {"IdTaux", "IdOrganisme", "CodeTaux", "depuis", "PartSalariale", "PartPatronale"}},
+      {"bareme_pas", {"TypeBareme", "depuis", "BorneInf", "BorneSup", "TauxNeutre"}},
+      {"cumuls", {"IdCumul", "CodeCumul", "libelle", "plafond_de", "plafond_taux"}},
+      {"preparations", {"ordre", "methode"}},
+      {"rubriques", {"lIdRubrique", "sCodeRubrique", "sDesignation", "methode", "ordre", "groupe",
+                     "nature"}},
+      {"rubrique_cumuls", {"lIdRubrique", "CodeCumul", "montant", "part", "signe"}},
+      {"salaries", {"lIdSalarie", "sMatricule", "nom", "prenom", "emploi", "adresse"}},
+      {"situations", {"lIdSalarie", "depuis", "champ", "valeur"}},
+      {"situations_exceptionnelles",
+       {"lIdSalarie", "CodeSituationExceptionnelle", "DateDebutSituationExceptionnelle",
+        "DateFinSituationExceptionnelle", "Quotite"}},
+      {"variables", {"lIdSalarie", "mois", "IdVariable", "CodeVariable", "Valeur", "Dateeffet",
+                     "TauxMontant"}},
+      {"salarie_rubriques", {"lIdSalarie", "lIdRubrique"}},
+      {"calculs", {"mois", "date_calcul", "version", "salaries", "lignes", "echecs", "secondes"}},
+      {"bulletins", {"mois", "lIdSalarie", "sTypeModele", "sCodeCategorie", "dIndiceMajoreM",
+                     "dBonification", "dTauxPoste", "dHeuresMois", "brut",
+                     "cotisations_salariales", "net_avant_impot", "net_imposable", "base_pas",
+                     "taux_pas", "pas", "net_paye", "cotisations_patronales", "cout_employeur",
+                     "echecs"}},
+      {"lignes", {"mois", "lIdSalarie", "ordre", "lIdRubrique", "sCodeRubrique", "sDesignation",
+                  "groupe", "nature", "methode", "ok", "dBase", "dValeurCoefficient",
+                  "dTauxSalarial", "dMontantSalarial", "dTauxPatronal", "dMontantPatronal",
+                  "sValeurBase", "sCoeffBase", "sValeurTauxSalarial", "sValeurTauxPatronal"}},
+      {"cumuls_salarie",
+       {"mois", "lIdSalarie", "IdCumul", "CodeCumul", "PartSalariale", "PartPatronale"}},
+  };
+  return t;
+}
 
 [[noreturn]] void Erreur(const std::string& table, const std::string& ligne,
                          const std::string& colonne, const std::string& message) {
@@ -92,7 +130,7 @@ ValeurChamp ValeurDeCellule(const Champ<R>& c, const Requete& r, int i, const st
       if (!nombre) faux("an integer");
       const double d = *nombre;
       const double max = c.type == TypeChamp::I16 ? 32767 : 2147483647.0;
-      if (d != static_cast<double>(static_cast<long long>(d)) || d > max || d < -max - 1)
+      if (!(d <= max && d >= -max - 1) || d != std::trunc(d))
         faux(c.type == TypeChamp::I16 ? "a 16-bit integer" : "a 32-bit integer");
       if (c.type == TypeChamp::I16) return Int16(static_cast<std::int16_t>(d));
       return Int32(static_cast<std::int32_t>(d));
@@ -140,8 +178,7 @@ class MagasinSql final : public Magasin {
   explicit MagasinSql(std::unique_ptr<Connexion> base) : base_(std::move(base)) {}
 
   DonneesMois ChargeMois(const std::string& texteMois) override {
-    for (const char* t : kTables)
-      if (!base_->TableExiste(t)) throw ErreurMagasin(fmt::format("table '{}' is missing", t));
+    VerifieTables();
     DonneesMois d;
     d.mois = CleMois(texteMois);
     d.employeur = LitEmployeur();
@@ -162,11 +199,24 @@ class MagasinSql final : public Magasin {
     return r.Pas();
   }
 
+  bool LectureSeule() override { return base_->LectureSeule(); }
+
   void EcritMois(const ResultatMois& res, bool remplacer) override;
   ResultatMois LitMois(const std::string& mois) override;
   Connexion& Sql() override { return *base_; }
 
  private:
+  void VerifieTables() {
+    for (const auto& t : Tables()) {
+      if (!base_->TableExiste(t.nom)) throw ErreurMagasin(fmt::format("table '{}' is missing", t.nom));
+      const std::vector<std::string> presentes = base_->ColonnesDe(t.nom);
+      for (const char* c : t.colonnes)
+        if (std::none_of(presentes.begin(), presentes.end(),
+                         [&](const std::string& p) { return strcasecmp(p.c_str(), c) == 0; }))
+          throw ErreurMagasin(fmt::format("table '{}': column '{}' is missing", t.nom, c));
+    }
+  }
+
   Employeur LitEmployeur() {
     Requete r = base_->Prepare("SELECT nom, siret, adresse FROM employeur WHERE id = 1");
     if (!r.Pas()) throw ErreurMagasin("table 'employeur': no row (id 1)");
@@ -288,6 +338,10 @@ class MagasinSql final : public Magasin {
       Cumul c{static_cast<std::int32_t>(r.Entier(0)), TexteOuVide(r, 1, "cumuls", ligne),
               TexteOuVide(r, 2, "cumuls", ligne), TexteOuVide(r, 3, "cumuls", ligne), 0};
       c.plafondTaux = Nombre(r, 4, "cumuls", ligne).NombreOuZero();
+      // A cap is a share of the other total.
+      if (!(c.plafondTaux >= 0 && c.plafondTaux <= 100))
+        Erreur("cumuls", ligne, "plafond_taux",
+               fmt::format("a percentage from 0 to 100, got {}", c.plafondTaux));
       d.cumuls.push_back(std::move(c));
     }
     for (const auto& c : d.cumuls)
@@ -524,6 +578,17 @@ void MagasinSql::EcritMois(const ResultatMois& res, bool remplacer) {
   });
 }
 
+// The payslip of employee `id` in a month read back; a row of `table` for an employee with no
+// payslip that month (a store edited by hand) is an error naming it.
+Bulletin& BulletinLu(ResultatMois& res, const std::unordered_map<long long, std::size_t>& parId,
+                   long long id, const char* table) {
+  const auto it = parId.find(id);
+  if (it == parId.end())
+    Erreur(table, fmt::format("month {}", res.mois), "lIdSalarie",
+           fmt::format("employee {} has no payslip that month", id));
+  return res.bulletins[it->second];
+}
+
 ResultatMois MagasinSql::LitMois(const std::string& texteMois) {
   ResultatMois res;
   res.mois = CleMois(texteMois);
@@ -597,7 +662,7 @@ ResultatMois MagasinSql::LitMois(const std::string& texteMois) {
       y.dMontantSalarial = r.Reel(12); y.dTauxPatronal = r.Reel(13); y.dMontantPatronal = r.Reel(14);
       y.sValeurBase = r.Texte(15); y.sCoeffBase = r.Texte(16); y.sValeurTauxSalarial = r.Texte(17);
       y.sValeurTauxPatronal = r.Texte(18);
-      res.bulletins[parId.at(r.Entier(0))].lignes.push_back(std::move(y));
+      BulletinLu(res, parId, r.Entier(0), "lignes").lignes.push_back(std::move(y));
     }
   }
   {
@@ -606,7 +671,7 @@ ResultatMois MagasinSql::LitMois(const std::string& texteMois) {
         "WHERE mois = ?");
     r.Lie(1, res.mois);
     while (r.Pas())
-      res.bulletins[parId.at(r.Entier(0))].cumuls[r.Texte(1)] = {r.Reel(2), r.Reel(3)};
+      BulletinLu(res, parId, r.Entier(0), "cumuls_salarie").cumuls[r.Texte(1)] = {r.Reel(2), r.Reel(3)};
   }
   return res;
 }

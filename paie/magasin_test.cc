@@ -63,6 +63,20 @@ TEST_P(MagasinTest, AbsentSansCreationEstRefuse) {
   }
 }
 
+// A version this program never writes: refused, not read as an old store to upgrade.
+TEST_P(MagasinTest, VersionNegativeRefusee) {
+  const std::string c = Vide();
+  OuvreMagasin(c, true);
+  FixeVersion(c, -3);
+  try {
+    OuvreMagasin(c);
+    FAIL();
+  } catch (const ErreurMagasin& e) {
+    EXPECT_TRUE(Contient(e.what(), "not an Orvalis store (schema version -3)"));
+  }
+  EXPECT_EQ(VersionSchema(c), -3);
+}
+
 TEST_P(MagasinTest, VersionPlusRecenteRefusee) {
   const std::string c = Vide();
   OuvreMagasin(c, true);
@@ -94,6 +108,38 @@ TEST_P(MagasinTest, TableManquante) {
   EXPECT_EQ(Refus(c), "table 'taux' is missing");
 }
 
+TEST_P(MagasinTest, ColonneManquante) {
+  const std::string c = Commune(1);
+  Sql(c, "ALTER TABLE taux DROP COLUMN \"PartSalariale\"");
+  EXPECT_EQ(Refus(c), "table 'taux': column 'PartSalariale' is missing");
+}
+
+// A column a host added with a default: the month is written beside it.
+TEST_P(MagasinTest, ColonneAjouteeAuxResultats) {
+  const std::string c = Commune(1);
+  Sql(c, "ALTER TABLE lignes ADD COLUMN controle TEXT DEFAULT 'a revoir'");
+  auto m = OuvreMagasin(c);
+  m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
+  EXPECT_EQ(Nombre(c, "SELECT count(*) FROM lignes WHERE controle = 'a revoir'"),
+            Nombre(c, "SELECT count(*) FROM salarie_rubriques"));
+}
+
+// Lines of an employee without a payslip that month (a store edited by hand): named.
+TEST_P(MagasinTest, LigneSansBulletinALaRelecture) {
+  const std::string c = Commune(1);
+  auto m = OuvreMagasin(c);
+  m->EcritMois(CalculeMois(m->ChargeMois("2024-03")), false);
+  Sql(c, SansClesEtrangeres() + "UPDATE lignes SET \"lIdSalarie\" = 77 WHERE ordre = "
+         "(SELECT min(ordre) FROM lignes)");
+  try {
+    m->LitMois("2024-03");
+    FAIL();
+  } catch (const ErreurMagasin& e) {
+    EXPECT_EQ(std::string(e.what()), "table 'lignes', month 202403, column 'lIdSalarie': "
+                                     "employee 77 has no payslip that month");
+  }
+}
+
 TEST_P(MagasinTest, MauvaisTypeDansUneSituation) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE situations SET valeur = 'quatre cents' WHERE champ = 'dIndiceMajoreM'");
@@ -108,6 +154,20 @@ TEST_P(MagasinTest, EntierSeizeBitsHorsLimites) {
   // PostgreSQL keeps a situation's value as a text.
   EXPECT_TRUE(Contient(Refus(c), Pg() ? "iEnfant_ACharge needs a 16-bit integer, got the text '32768'"
                                       : "iEnfant_ACharge needs a 16-bit integer, got the integer 32768"));
+}
+
+// Past any integer: refused by its size, not converted.
+TEST_P(MagasinTest, NombreImmenseDansUnChampEntier) {
+  const std::string c = Commune(1);
+  // PostgreSQL keeps a situation's value as a text: the texts of the same numbers.
+  Sql(c, Pg() ? "UPDATE situations SET valeur = '1e300' WHERE champ = 'iEnfant_ACharge'"
+              : "UPDATE situations SET valeur = 1e300 WHERE champ = 'iEnfant_ACharge'");
+  EXPECT_TRUE(Contient(Refus(c), "iEnfant_ACharge needs a 16-bit integer, got the"));
+  EXPECT_TRUE(Contient(Refus(c), "1e+300") || Contient(Refus(c), "1e300"));
+  Sql(c, Pg() ? "UPDATE situations SET valeur = '2.5' WHERE champ = 'iEnfant_ACharge'"
+              : "UPDATE situations SET valeur = 2.5 WHERE champ = 'iEnfant_ACharge'");
+  EXPECT_TRUE(Contient(Refus(c), "iEnfant_ACharge needs a 16-bit integer, got the"));
+  EXPECT_TRUE(Contient(Refus(c), "2.5"));
 }
 
 // A number written as a text is read as the number; a text that is not wholly one is refused.
@@ -175,6 +235,16 @@ TEST_P(MagasinTest, PlafondSurUnCumulInconnu) {
   const long long id = Nombre(c, "SELECT IdCumul FROM cumuls WHERE CodeCumul = 'ASSRAFP'");
   EXPECT_EQ(Refus(c), "table 'cumuls', IdCumul " + std::to_string(id) +
                           ", column 'plafond_de': no total 'TRAITEMENT'");
+}
+
+TEST_P(MagasinTest, PlafondHorsPourcentage) {
+  const std::string c = Commune(1);
+  Sql(c, "UPDATE cumuls SET plafond_taux = 1e300 WHERE plafond_de IS NOT NULL");
+  const long long id = Nombre(c, "SELECT \"IdCumul\" FROM cumuls WHERE plafond_de IS NOT NULL");
+  EXPECT_EQ(Refus(c), "table 'cumuls', IdCumul " + std::to_string(id) +
+                          ", column 'plafond_taux': a percentage from 0 to 100, got 1e+300");
+  Sql(c, "UPDATE cumuls SET plafond_taux = 100 WHERE plafond_de IS NOT NULL");
+  EXPECT_EQ(Refus(c), "(no error)");
 }
 
 TEST_P(MagasinTest, ValeursEnVigueurAuMois) {

@@ -7,8 +7,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sstream>
 #include <string>
+#include <vector>
 
+#include "paie/commande.h"
 #include "paie/commune_exemple.h"
 #include "paie/magasin.h"
 #include "paie/sqlite.h"
@@ -28,6 +31,14 @@ class DossierTest : public ::testing::Test {
   void TearDown() override { std::filesystem::remove_all(dossier_); }
 
   std::string Chemin(const std::string& nom) const { return (dossier_ / nom).string(); }
+
+  // A command of the pay run in process: its status; what it wrote in sortie_ and erreurs_.
+  int Lance(const std::vector<std::string>& args) {
+    sortie_.str("");
+    erreurs_.str("");
+    return CommandePaie(args, sortie_, erreurs_, false);
+  }
+  std::ostringstream sortie_, erreurs_;
 
   // The sample commune in a new store; gives its path.
   std::string Commune(int agents = kAgentsCommune) {

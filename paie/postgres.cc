@@ -207,6 +207,8 @@ class InsertionPg final : public Curseur {
 }  // namespace
 
 bool EstAdressePostgres(const std::string& m) {
+  // A SQLite URI ("file:c.db?mode=ro") holds an '=' too.
+  if (m.rfind("file:", 0) == 0) return false;
   return m.rfind("postgresql://", 0) == 0 || m.rfind("postgres://", 0) == 0 ||
          m.find('=') != std::string::npos;
 }

@@ -71,7 +71,7 @@ TEST_P(MotDePasseTest, JamaisAffiche) {
   if (ServeurPgTest::Instance().Dossier().empty()) GTEST_SKIP() << "the password role is on the test server only";
   Sql(ServeurPgTest::Instance().Admin(), "GRANT ALL ON SCHEMA " + schema_ + " TO orvalis_mdp");
   const std::string faux = "Faux-Mot-2-Passe";
-  EXPECT_EQ(Lance({"paie", "--store", Uri(faux, schema_), "2024-03"}), 1);
+  EXPECT_EQ(Lance({"paie", "--store", Uri(faux, schema_), "2024-03"}), kStatutAcces);
   EXPECT_TRUE(Contient(erreurs_.str(), "password authentication failed for user \"orvalis_mdp\""));
   EXPECT_TRUE(Contient(erreurs_.str(), "orvalis_mdp:********@"));
   EXPECT_FALSE(Contient(erreurs_.str(), faux));
@@ -84,11 +84,11 @@ TEST_P(MotDePasseTest, JamaisAffiche) {
   EXPECT_TRUE(Contient(erreurs_.str(), "3/3 employees"));
   EXPECT_FALSE(Contient(sortie_.str() + erreurs_.str(), kMotDePasseTest));
   // An error of the store after the connection: the month is already computed.
-  EXPECT_EQ(Lance({"paie", "--store", bon, "2024-03"}), 1);
+  EXPECT_EQ(Lance({"paie", "--store", bon, "2024-03"}), kStatutEntree);
   EXPECT_TRUE(Contient(erreurs_.str(), "already computed"));
   EXPECT_FALSE(Contient(erreurs_.str(), kMotDePasseTest));
   // A malformed address that repeats the password.
-  EXPECT_EQ(Lance({"paie", "--store", bon + "&inconnu=" + kMotDePasseTest, "2024-03"}), 1);
+  EXPECT_EQ(Lance({"paie", "--store", bon + "&inconnu=" + kMotDePasseTest, "2024-03"}), kStatutAcces);
   EXPECT_FALSE(Contient(erreurs_.str(), kMotDePasseTest)) << erreurs_.str();
   // Through PGPASSWORD, with no password in the address.
   setenv("PGPASSWORD", kMotDePasseTest, 1);

@@ -196,6 +196,10 @@ void AppliqueEtapes(Connexion& base, int version) {
                       " is newer than this program's (" + std::to_string(kVersionSchema) + ")");
 }
 
+[[noreturn]] void PasUnMagasin(const std::string& nom, long long version) {
+  throw ErreurMagasin(nom + ": not an Orvalis store (schema version " + std::to_string(version) + ")");
+}
+
 }  // namespace
 
 void PrepareSchema(Base& base, const std::string& chemin) {
@@ -205,6 +209,8 @@ void PrepareSchema(Base& base, const std::string& chemin) {
     if (r.Pas()) version = static_cast<int>(r.Entier(0));
   }
   if (version > kVersionSchema) TropRecent(chemin, version);
+  // A negative version was never written by this program: the file is not one of its stores.
+  if (version < 0) PasUnMagasin(chemin, version);
   if (version == 0) {
     Requete r = base.Prepare("SELECT count(*) FROM sqlite_master");
     if (r.Pas() && r.Entier(0) > 0) throw ErreurMagasin(chemin + ": not an Orvalis store (no schema version)");
@@ -232,6 +238,7 @@ void PrepareSchemaPg(BasePg& base) {
       base.Execute("INSERT INTO version_schema VALUES (0)");
     }
     if (version > kVersionSchema) TropRecent(base.Affichee(), version);
+    if (version < 0) PasUnMagasin(base.Affichee(), version);
     if (version == kVersionSchema) return;
     AppliqueEtapes(base, static_cast<int>(version));
     Requete u = base.Prepare("UPDATE version_schema SET version = ?");

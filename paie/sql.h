@@ -15,17 +15,25 @@
 namespace orvalis::paie {
 
 // A store that cannot be read or written as asked: the message names the table, row and
-// column when there is one.
+// column when there is one, else the store.
 class ErreurMagasin : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  // What stopped the run: what was asked or what the store holds (the input), or the store
+  // as the system lets it be used now (locked, full, read-only, failing, unreachable).
+  enum class Cause { Donnees, Acces };
+  explicit ErreurMagasin(const std::string& message, Cause cause = Cause::Donnees)
+      : std::runtime_error(message), cause_(cause) {}
+  Cause cause() const { return cause_; }
+
+ private:
+  Cause cause_;
 };
 
 // The server went away or the connection broke: the transaction under way is lost and the
 // work it held returns to the others.
 class ErreurConnexion : public ErreurMagasin {
  public:
-  using ErreurMagasin::ErreurMagasin;
+  explicit ErreurConnexion(const std::string& message) : ErreurMagasin(message, Cause::Acces) {}
 };
 
 enum class TypeCellule { Null, Entier, Reel, Texte, Autre };
@@ -100,6 +108,8 @@ class Connexion {
   virtual void Annule() noexcept = 0;
   // The columns of a table, in order.
   virtual std::vector<std::string> ColonnesDe(const std::string& table) = 0;
+  // The store can be read only (a SQLite file of that mode, or opened so).
+  virtual bool LectureSeule() { return false; }
 };
 
 // Runs `f` in a write transaction of `c`: committed when it returns, rolled back when it throws.

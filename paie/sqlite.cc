@@ -4,8 +4,32 @@ namespace orvalis::paie {
 
 namespace {
 
+// A failed call, in words a payroll officer can act on, with the store's file it concerns.
+// What the file lets us do now (locked, full, read-only, failing) is told apart from what
+// it holds.
 [[noreturn]] void Echec(sqlite3* db, const std::string& quoi) {
-  throw ErreurMagasin(quoi + ": " + (db ? sqlite3_errmsg(db) : "out of memory"));
+  if (db == nullptr) throw ErreurMagasin("out of memory", ErreurMagasin::Cause::Acces);
+  const char* fichier = sqlite3_db_filename(db, "main");
+  const std::string lieu = fichier && *fichier ? std::string(fichier) + ": " : quoi + ": ";
+  const std::string detail = sqlite3_errmsg(db);
+  std::string raison;
+  switch (sqlite3_errcode(db)) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      raison = "the store is locked by another process (waited " +
+               std::to_string(kAttenteVerrouMs / 1000) + " s); nothing was written";
+      break;
+    case SQLITE_FULL: raison = "the disk or the store is full; nothing was written"; break;
+    case SQLITE_READONLY: raison = "the store is read-only; nothing was written"; break;
+    case SQLITE_IOERR: raison = "input/output error on the store"; break;
+    case SQLITE_CANTOPEN:
+      raison = "cannot make a file beside the store (its folder read-only?); nothing was written";
+      break;
+    case SQLITE_PERM: raison = "access to the store refused"; break;
+    case SQLITE_NOMEM: raison = "out of memory"; break;
+    default: throw ErreurMagasin(lieu + detail);
+  }
+  throw ErreurMagasin(lieu + raison + " (" + detail + ")", ErreurMagasin::Cause::Acces);
 }
 
 class CurseurSqlite final : public Curseur {
@@ -68,27 +92,28 @@ class CurseurSqlite final : public Curseur {
 Base::Base(const std::string& chemin, bool creer) {
   // A connection serves one thread at a time: SQLite need not lock it on every call.
   const int drapeaux =
-      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (creer ? SQLITE_OPEN_CREATE : 0);
+      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI | (creer ? SQLITE_OPEN_CREATE : 0);
   if (sqlite3_open_v2(chemin.c_str(), &db_, drapeaux, nullptr) != SQLITE_OK) {
     const std::string message = db_ ? sqlite3_errmsg(db_) : "out of memory";
     sqlite3_close(db_);
     db_ = nullptr;
     throw ErreurMagasin(chemin + ": cannot open: " + message);
   }
-  sqlite3_busy_timeout(db_, 5000);
+  sqlite3_busy_timeout(db_, kAttenteVerrouMs);
   Execute("PRAGMA foreign_keys = ON");
 }
 
 Base::~Base() { sqlite3_close(db_); }
 
 void Base::Execute(const std::string& sql) {
-  char* erreur = nullptr;
-  if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &erreur) != SQLITE_OK) {
-    std::string message = erreur ? erreur : sqlite3_errmsg(db_);
-    sqlite3_free(erreur);
-    throw ErreurMagasin(message);
-  }
+  if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) Echec(db_, "SQL");
 }
+
+void Base::Annule() noexcept {
+  if (sqlite3_get_autocommit(db_) == 0) sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+bool Base::LectureSeule() { return sqlite3_db_readonly(db_, "main") == 1; }
 
 Requete Base::Prepare(const std::string& sql) { return Requete(std::make_unique<CurseurSqlite>(db_, sql)); }
 

@@ -11,9 +11,13 @@
 
 namespace orvalis::paie {
 
+// How long a store that another process holds is waited for.
+inline constexpr int kAttenteVerrouMs = 5000;
+
 class Base final : public Connexion {
  public:
-  // Opens (and creates when asked) the file; a busy store waits up to five seconds.
+  // Opens (and creates when asked) the file, or a SQLite URI ("file:c.db?mode=ro"); a busy
+  // store waits up to kAttenteVerrouMs.
   Base(const std::string& chemin, bool creer);
   ~Base() override;
   Base(const Base&) = delete;
@@ -23,7 +27,11 @@ class Base final : public Connexion {
   Requete Prepare(const std::string& sql) override;
   bool TableExiste(const std::string& nom) override;
   void Debut() override { Execute("BEGIN IMMEDIATE"); }
-  void Annule() noexcept override { sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr); }
+  // Rolls back the open transaction, if SQLite has not already done so (a full disk or an
+  // I/O error may end it), keeping quiet: the error being handled is the one to tell.
+  void Annule() noexcept override;
+  // The file can be read only (its mode, or opened so).
+  bool LectureSeule() override;
   std::vector<std::string> ColonnesDe(const std::string& table) override;
   sqlite3* Poignee() { return db_; }
 

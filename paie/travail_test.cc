@@ -40,7 +40,7 @@ struct Processus {
   }
 };
 
-Processus Lance(const std::vector<std::string>& args, const std::string& prefixe, int pauseMs) {
+Processus LanceProcessus(const std::vector<std::string>& args, const std::string& prefixe, int pauseMs) {
   Processus p;
   p.sortie = prefixe + ".out";
   p.erreurs = prefixe + ".err";
@@ -226,11 +226,11 @@ TEST_P(TravailTest, RoleDeTravailAvecSesSeulsDroits) {
 // months. With --worker, the second joins.
 TEST_P(TravailTest, DeuxLancementsDuMemeMois) {
   const std::string c = Commune(8);
-  Processus a = Lance({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 150);
-  Processus b = Lance({"paie", c, "2024-03", "--batch", "2"}, Chemin("b"), 150);
+  Processus a = LanceProcessus({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 150);
+  Processus b = LanceProcessus({"paie", c, "2024-03", "--batch", "2"}, Chemin("b"), 150);
   const int sa = a.Attend(), sb = b.Attend();
-  EXPECT_EQ(sa + sb, 1) << Processus::Lit(a.erreurs) << Processus::Lit(b.erreurs);
-  const std::string refus = Processus::Lit(sa == 1 ? a.erreurs : b.erreurs);
+  EXPECT_EQ(sa + sb, kStatutEntree) << Processus::Lit(a.erreurs) << Processus::Lit(b.erreurs);
+  const std::string refus = Processus::Lit(sa == kStatutEntree ? a.erreurs : b.erreurs);
   EXPECT_TRUE(Contient(refus, "orvalis: month 2024-03 is being computed (started ") ||
               Contient(refus, "orvalis: month 2024-03 is already computed"))
       << refus;
@@ -239,8 +239,8 @@ TEST_P(TravailTest, DeuxLancementsDuMemeMois) {
   EXPECT_EQ(Nombre(c, "SELECT count(*) FROM (SELECT DISTINCT mois, lIdSalarie, ordre FROM lignes) x"),
             Nombre(c, "SELECT count(*) FROM lignes"));
 
-  Processus x = Lance({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("x"), 300);
-  Processus y = Lance({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("y"), 300);
+  Processus x = LanceProcessus({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("x"), 300);
+  Processus y = LanceProcessus({"paie", c, "2024-04", "--batch", "2", "--worker"}, Chemin("y"), 300);
   EXPECT_EQ(x.Attend(), 0) << Processus::Lit(x.erreurs);
   EXPECT_EQ(y.Attend(), 0) << Processus::Lit(y.erreurs);
   EXPECT_EQ(Nombre(c, "SELECT count(*) FROM calculs WHERE mois = '202404' AND publie = 1"), 1);
@@ -255,7 +255,7 @@ TEST_P(TravailTest, DeuxLancementsDuMemeMois) {
 // so; one with --worker finishes it, the written batches kept.
 TEST_P(TravailTest, MoisInacheveRepris) {
   const std::string c = Commune(6);
-  Processus a = Lance({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 300);
+  Processus a = LanceProcessus({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 300);
   ASSERT_TRUE(Attends([&] { return LotsFaits(c) >= 1 && PidServeurEnLot(a.pid) > 0; }));
   kill(a.pid, SIGKILL);
   a.Attend();
@@ -280,7 +280,7 @@ TEST_P(TravailTest, MoisInacheveRepris) {
 // connects again and computes it again; nothing lost, nothing twice.
 TEST_P(TravailTest, ServeurPerduAuMilieuDUnLot) {
   const std::string c = Commune(6);
-  Processus a = Lance({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 300);
+  Processus a = LanceProcessus({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 300);
   long long pid = 0;
   ASSERT_TRUE(Attends([&] { return (pid = PidServeurEnLot(a.pid)) > 0; }));
   EXPECT_EQ(Nombre(ServeurPgTest::Instance().Admin(),
@@ -308,7 +308,7 @@ TEST_P(TravailTest, ServeurArreteAuMilieuDUnLot) {
     Base source(fichier, false);
     CopieMagasin(source, m->Sql());
   }
-  Processus a = Lance({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 500);
+  Processus a = LanceProcessus({"paie", c, "2024-03", "--batch", "2"}, Chemin("a"), 500);
   const bool enLot = Attends([&] {
     return Nombre(c, "SELECT count(*) FROM pg_stat_activity WHERE application_name LIKE '%:" +
                          std::to_string(a.pid) + "' AND state = 'idle in transaction' "
@@ -316,7 +316,7 @@ TEST_P(TravailTest, ServeurArreteAuMilieuDUnLot) {
   });
   ServeurPgTest::Script("stop " + dossier);
   ASSERT_TRUE(enLot);
-  EXPECT_EQ(a.Attend(), 1);
+  EXPECT_EQ(a.Attend(), kStatutAcces);
   const std::string erreurs = Processus::Lit(a.erreurs);
   EXPECT_TRUE(Contient(erreurs, "orvalis: 2024-03: the connection was lost ("));
   EXPECT_TRUE(Contient(erreurs, "orvalis: 2024-03: the server cannot be reached again after the "
@@ -350,7 +350,7 @@ TEST_P(TravailTest, SQLiteUnProcessusEtTroisTravailleursDontUnTue) {
   for (const char* mois : {"2024-03", "2024-04"}) {
     std::vector<Processus> p;
     for (int i = 0; i < 3; ++i)
-      p.push_back(Lance({"paie", trois, mois, "--worker", "--batch", "2"}, Chemin(mois + std::to_string(i)), 150));
+      p.push_back(LanceProcessus({"paie", trois, mois, "--worker", "--batch", "2"}, Chemin(mois + std::to_string(i)), 150));
     if (std::string(mois) == "2024-03") {
       // The first is killed once it has written a batch and holds another.
       ASSERT_TRUE(Attends([&] {

@@ -17,7 +17,7 @@ if ! command -v clang++ >/dev/null 2>&1; then
 fi
 
 secondes=${ORVALIS_FUZZ_SECONDS:-25}
-cibles=${ORVALIS_FUZZ_TARGETS:-cas critere outils moteur abi}
+cibles=${ORVALIS_FUZZ_TARGETS:-cas critere outils moteur magasin abi}
 jobs=$(nproc 2>/dev/null || echo 2)
 lanceur=()
 command -v ccache >/dev/null 2>&1 && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
