@@ -536,15 +536,13 @@ int orvalis_call(orvalis_engine* engine, const char* operation, const char* args
       throw Echec{ORVALIS_NOTFOUND, inconnue.Message()};
     }
     const Json args = LitTexteJson(args_json ? args_json : "[]", "args");
-    if (Nomme(args, "$salarie")) {
-      Requis(employee, "orvalis_employee for \"$salarie\"");
-      if (!LeRegistre().Vivant(employee, Genre::Salarie))
-        throw Echec{ORVALIS_MISUSE, "not a live orvalis_employee"};
-    }
-    if (Nomme(args, "$rubrique")) {
-      Requis(line, "orvalis_line for \"$rubrique\"");
-      if (!LeRegistre().Vivant(line, Genre::Ligne)) throw Echec{ORVALIS_MISUSE, "not a live orvalis_line"};
-    }
+    if (Nomme(args, "$salarie")) Requis(employee, "orvalis_employee for \"$salarie\"");
+    if (Nomme(args, "$rubrique")) Requis(line, "orvalis_line for \"$rubrique\"");
+    // A handle given is read below even when the arguments do not name it: it must be live.
+    if (employee != nullptr && !LeRegistre().Vivant(employee, Genre::Salarie))
+      throw Echec{ORVALIS_MISUSE, "not a live orvalis_employee"};
+    if (line != nullptr && !LeRegistre().Vivant(line, Genre::Ligne))
+      throw Echec{ORVALIS_MISUSE, "not a live orvalis_line"};
     AppelPrepare appel = op->prepare(args, "args");
     VarCalculSalarie sansSalarie;
     std::shared_ptr<SalarieCalculRubrique> ligne =

@@ -149,7 +149,8 @@ int orvalis_calculate(orvalis_engine *engine, const char *name, orvalis_employee
 ** operations that case files call: the same table). `args_json` is a JSON array of the
 ** arguments in signature order, written as in a case file: numbers, texts, booleans, tables,
 ** "$salarie" for `employee`, "$rubrique" for `line`, "$absent" for a left-out optional
-** argument. `employee` and `line` may be null when the operation takes no record.
+** argument. `employee` and `line` may be null when the operation takes no record; either one
+** given must be live (ORVALIS_MISUSE otherwise), named by the arguments or not.
 ** On ORVALIS_OK, *result_json is {"result": R, "out": [...]} (the values the operation wrote
 ** into its output arguments, in signature order), owned by the engine. ORVALIS_FAULT when the
 ** operation faulted (orvalis_errmsg() gives the fault), ORVALIS_NOTFOUND for a name the
