@@ -145,11 +145,11 @@ TEST_F(PannesTest, VingtArretsBrutaux) {
 
   int tues = 0, absents = 0, entiers = 0;
   for (int k = 0; k < 20; ++k) {
-    // A run that ended before its kill is tried again on a fresh copy, sooner: up to four
-    // times, each at half the delay.
+    // A run that ended before its kill is tried again on a fresh copy, sooner: up to eight
+    // times, each at half the delay (a quick build writes the month in a few milliseconds).
     const std::string c = Chemin("k" + std::to_string(k) + ".db");
     bool tue = false;
-    for (int essai = 0; essai < 4 && !tue; ++essai) {
+    for (int essai = 0; essai < 8 && !tue; ++essai) {
       RetireMagasin(c);
       std::filesystem::copy_file(modele, c);
       // In a coverage build, a kill while the process writes its counts would spoil the
