@@ -5,12 +5,9 @@
 #include "generic/taux_regles.h"
 #include "orvalis/MethodeCalculG_Nouv.h"
 #include "orvalis/ModOutilsSpec.h"
-#include "salary/heures_supp.h"
 #include "salary/salaire_outils.h"
 
 namespace orvalis {
-
-namespace heures {
 
 namespace {
 
@@ -52,28 +49,32 @@ void LigneComplementaire(MoteurCalcul& m, VarCalculSalarie& InfosSalaries,
 
 }  // namespace
 
-void HeuresComplementaires(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                           const RsRef& RsVarSalaries) {
-  LigneComplementaire(m, s, r, RsVarSalaries, RsVarSalaries, s.dBase_HSN,
-                      {m.ConstanteFixe("SmicHor"), m.ConstanteFixe("HrsMois")});
+void MoteurCalcul::CalculRubrique_HeuresComplementaires(VarCalculSalarie& s,
+                                                        SalarieCalculRubrique& r,
+                                                        const RsRef& RsVarSalaries) {
+  LigneComplementaire(*this, s, r, RsVarSalaries, RsVarSalaries, s.dBase_HSN,
+                      {ConstanteFixe("SmicHor"), ConstanteFixe("HrsMois")});
 }
 
 // The hours of the month before are paid at that month's rate: its reference salary, its
 // SMIC and hours, and the hourly variables of that month when the host passes them.
-void HeuresComplementairesPrec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                               const RsRef& RsVarSalaries, const RsRef& RsVarSalariesHisto) {
+void MoteurCalcul::CalculRubrique_HeuresComplementairesPrec(VarCalculSalarie& s,
+                                                            SalarieCalculRubrique& r,
+                                                            const RsRef& RsVarSalaries,
+                                                            const RsRef& RsVarSalariesHisto) {
   Smic smic{0, 0};
-  m.dRechercheSmicHistorique(smic.dSmicHoraire, smic.dHeuresMois);
-  LigneComplementaire(m, s, r, RsVarSalaries,
+  dRechercheSmicHistorique(smic.dSmicHoraire, smic.dHeuresMois);
+  LigneComplementaire(*this, s, r, RsVarSalaries,
                       RsVarSalariesHisto ? RsVarSalariesHisto : RsVarSalaries, s.dBase_HSA, smic);
 }
 
-void ComplementDifferentiel35H(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
-                               const RsRef& RsVarSalaries) {
-  const double dHeuresTravaillees = m.dRechercheValeurCumul("HEURES", "S");
-  double A = m.dRechercheValeur_Variable(RsVarSalaries, "NBHRAV35");
+void MoteurCalcul::CalculRubrique_ComplementDifferentiel35H(VarCalculSalarie& /*InfosSalaries*/,
+                                                            SalarieCalculRubrique& Rubrique,
+                                                            const RsRef& RsVarSalaries) {
+  const double dHeuresTravaillees = dRechercheValeurCumul("HEURES", "S");
+  double A = dRechercheValeur_Variable(RsVarSalaries, "NBHRAV35");
   // 169 stands for a full month before 35 hours: it follows the hours worked.
-  if (A == 169) A = Div(dHeuresTravaillees * 169, m.ConstanteFixe("HrsMois"));
+  if (A == 169) A = Div(dHeuresTravaillees * 169, ConstanteFixe("HrsMois"));
 
   Rubrique.dTauxSalarial = 0;
   Rubrique.dTauxPatronal = 0;
@@ -92,39 +93,18 @@ void ComplementDifferentiel35H(MoteurCalcul& m, SalarieCalculRubrique& Rubrique,
   rs.ClearFilter();
   double dTaux = 0;
   if (bTxSmic) {
-    dTaux = dTxSmic * m.ConstanteFixe("SmicHor") / 100;
+    dTaux = dTxSmic * ConstanteFixe("SmicHor") / 100;
   } else {
-    m.dRechercheValeur_VariableBis(RsVarSalaries, "TXHEURES", dTaux);
+    dRechercheValeur_VariableBis(RsVarSalaries, "TXHEURES", dTaux);
   }
 
   const double dPaye = dHeuresTravaillees * dTaux;
   const double dGaranti =
-      Arrondi((m.dRechercheValeur_Constantes(m.gRsConstantes, "SMICTXVAL") / 100 + 1) *
-                  m.dRechercheValeur_Constantes(m.gRsConstantes, "SMIC35") * A,
+      Arrondi((dRechercheValeur_Constantes(gRsConstantes, "SMICTXVAL") / 100 + 1) *
+                  dRechercheValeur_Constantes(gRsConstantes, "SMIC35") * A,
               2);
   Rubrique.dBase = dGaranti;
   Rubrique.dMontantSalarial = dGaranti - dPaye;
-}
-
-}  // namespace heures
-
-void MoteurCalcul::CalculRubrique_HeuresComplementaires(VarCalculSalarie& InfosSalaries,
-                                                               SalarieCalculRubrique& Rubrique,
-                                                               const RsRef& RsVarSalaries) {
-  heures::HeuresComplementaires(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HeuresComplementairesPrec(
-    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-    const RsRef& RsVarSalariesHisto) {
-  heures::HeuresComplementairesPrec(*this, InfosSalaries, Rubrique, RsVarSalaries,
-                                    RsVarSalariesHisto);
-}
-
-void MoteurCalcul::CalculRubrique_ComplementDifferentiel35H(
-    VarCalculSalarie& /*InfosSalaries*/, SalarieCalculRubrique& Rubrique,
-    const RsRef& RsVarSalaries) {
-  heures::ComplementDifferentiel35H(*this, Rubrique, RsVarSalaries);
 }
 
 }  // namespace orvalis

@@ -8,13 +8,10 @@
 #include <string>
 
 #include "orvalis/MethodeCalculG_Nouv.h"
-#include "salary/heures_supp.h"
 #include "orvalis/ModOutilsSpec.h"
 #include "salary/salaire_outils.h"
 
 namespace orvalis {
-
-namespace heures {
 
 namespace {
 
@@ -107,138 +104,78 @@ bool LigneDeNuit(const std::string& sNomcalcul) { return sNomcalcul.find("NUITS"
 
 }  // namespace
 
-void HS_Moins14(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(m, s, r, RsVarSalaries, {Part::DansLaBorne, "HSNORMALEM", "HSCoefNorm", ""});
+void MoteurCalcul::CalculRubrique_HS_Moins14(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                             const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(*this, s, r, RsVarSalaries, {Part::DansLaBorne, "HSNORMALEM", "HSCoefNorm", ""});
 }
 
-void HS_Plus14(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-               const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_Plus14(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                            const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(*this, s, r, RsVarSalaries,
                    {Part::AuDelaDeLaBorne, "HSNORMALEM", "HSCoefSupp", ""});
 }
 
-void HS_Nuit(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-             const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_Nuit(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                          const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(*this, s, r, RsVarSalaries,
                    {Part::DansLaBorne, VariableSelonCode(r, "HSNUITM", "HSNUITEX"),
                     "HSCoefNuit", ""});
 }
 
-void HS_Ferie(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-              const RsRef& RsVarSalaries) {
-  HeuresSuppDuMois(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_Ferie(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                           const RsRef& RsVarSalaries) {
+  HeuresSuppDuMois(*this, s, r, RsVarSalaries,
                    {Part::DansLaBorne, VariableSelonCode(r, "HSFERIEM", "HSFEREX"), "HSCoefJf",
                     ""});
 }
 
-void HS_NuitFeriePlus14(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                        const RsRef& RsVarSalaries, const std::string& sNomcalcul) {
+void MoteurCalcul::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                                     const RsRef& RsVarSalaries,
+                                                     const std::string& sNomcalcul) {
   const LigneHS l = LigneDeNuit(sNomcalcul)
                         ? LigneHS{Part::AuDelaDeLaBorne, "HSNUITM", "HSCOEFNUITSUPP", ""}
                         : LigneHS{Part::AuDelaDeLaBorne, "HSFERIEM", "HSCOEFJFSUPP", ""};
-  HeuresSuppDuMois(m, s, r, RsVarSalaries, l);
+  HeuresSuppDuMois(*this, s, r, RsVarSalaries, l);
 }
 
-void HS_Moins14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                    const RsRef& RsVarSalaries) {
-  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                                 const RsRef& RsVarSalaries,
+                                                 const RsRef& /*RsVarSalariesHisto*/) {
+  HeuresSuppDuMoisPrecedent(*this, s, r, RsVarSalaries,
                             {Part::DansLaBorne, "HSNORMALEP", "HSCoefNorm", "HSNORMALEM"});
 }
 
-void HS_Plus14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                   const RsRef& RsVarSalaries) {
-  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                                const RsRef& RsVarSalaries,
+                                                const RsRef& /*RsVarSalariesHisto*/) {
+  HeuresSuppDuMoisPrecedent(*this, s, r, RsVarSalaries,
                             {Part::AuDelaDeLaBorne, "HSNORMALEP", "HSCoefSupp", "HSNORMALEM"});
 }
 
-void HS_NuitPrec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                 const RsRef& RsVarSalaries) {
-  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_NuitPrec(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                              const RsRef& RsVarSalaries,
+                                              const RsRef& /*RsVarSalariesHisto*/) {
+  HeuresSuppDuMoisPrecedent(*this, s, r, RsVarSalaries,
                             {Part::DansLaBorne, "HSNUITP", "HSCoefNuit", "HSNUITM"});
 }
 
-void HS_FeriePrec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                  const RsRef& RsVarSalaries) {
-  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries,
+void MoteurCalcul::CalculRubrique_HS_FeriePrec(VarCalculSalarie& s, SalarieCalculRubrique& r,
+                                               const RsRef& RsVarSalaries,
+                                               const RsRef& /*RsVarSalariesHisto*/) {
+  HeuresSuppDuMoisPrecedent(*this, s, r, RsVarSalaries,
                             {Part::DansLaBorne, "HSFERIEP", "HSCoefJf", "HSFERIEM"});
 }
 
-void HS_NuitFeriePlus14Prec(MoteurCalcul& m, VarCalculSalarie& s, SalarieCalculRubrique& r,
-                            const RsRef& RsVarSalaries, const std::string& sNomcalcul) {
+void MoteurCalcul::CalculRubrique_HS_NuitFeriePlus14Prec(VarCalculSalarie& s,
+                                                         SalarieCalculRubrique& r,
+                                                         const RsRef& RsVarSalaries,
+                                                         const RsRef& /*RsVarSalariesHisto*/,
+                                                         const std::string& sNomcalcul) {
   const LigneHS l =
       LigneDeNuit(sNomcalcul)
           ? LigneHS{Part::AuDelaDeLaBorne, "HSNUITP", "HSCOEFNUITSUPP", "HSNUITM"}
           : LigneHS{Part::AuDelaDeLaBorne, "HSFERIEP", "HSCOEFJFSUPP", "HSFERIEM"};
-  HeuresSuppDuMoisPrecedent(m, s, r, RsVarSalaries, l);
-}
-
-}  // namespace heures
-
-
-void MoteurCalcul::CalculRubrique_HS_Moins14(VarCalculSalarie& InfosSalaries,
-                                                    SalarieCalculRubrique& Rubrique,
-                                                    const RsRef& RsVarSalaries) {
-  heures::HS_Moins14(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_Plus14(VarCalculSalarie& InfosSalaries,
-                                                   SalarieCalculRubrique& Rubrique,
-                                                   const RsRef& RsVarSalaries) {
-  heures::HS_Plus14(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_Nuit(VarCalculSalarie& InfosSalaries,
-                                                 SalarieCalculRubrique& Rubrique,
-                                                 const RsRef& RsVarSalaries) {
-  heures::HS_Nuit(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_Ferie(VarCalculSalarie& InfosSalaries,
-                                                  SalarieCalculRubrique& Rubrique,
-                                                  const RsRef& RsVarSalaries) {
-  heures::HS_Ferie(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_NuitFeriePlus14(VarCalculSalarie& InfosSalaries,
-                                                            SalarieCalculRubrique& Rubrique,
-                                                            const RsRef& RsVarSalaries,
-                                                            const std::string& sNomcalcul) {
-  heures::HS_NuitFeriePlus14(*this, InfosSalaries, Rubrique, RsVarSalaries, sNomcalcul);
-}
-
-void MoteurCalcul::CalculRubrique_HS_Moins14Prec(VarCalculSalarie& InfosSalaries,
-                                                        SalarieCalculRubrique& Rubrique,
-                                                        const RsRef& RsVarSalaries,
-                                                        const RsRef& /*RsVarSalariesHisto*/) {
-  heures::HS_Moins14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_Plus14Prec(VarCalculSalarie& InfosSalaries,
-                                                       SalarieCalculRubrique& Rubrique,
-                                                       const RsRef& RsVarSalaries,
-                                                       const RsRef& /*RsVarSalariesHisto*/) {
-  heures::HS_Plus14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_NuitPrec(VarCalculSalarie& InfosSalaries,
-                                                     SalarieCalculRubrique& Rubrique,
-                                                     const RsRef& RsVarSalaries,
-                                                     const RsRef& /*RsVarSalariesHisto*/) {
-  heures::HS_NuitPrec(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_FeriePrec(VarCalculSalarie& InfosSalaries,
-                                                      SalarieCalculRubrique& Rubrique,
-                                                      const RsRef& RsVarSalaries,
-                                                      const RsRef& /*RsVarSalariesHisto*/) {
-  heures::HS_FeriePrec(*this, InfosSalaries, Rubrique, RsVarSalaries);
-}
-
-void MoteurCalcul::CalculRubrique_HS_NuitFeriePlus14Prec(
-    VarCalculSalarie& InfosSalaries, SalarieCalculRubrique& Rubrique, const RsRef& RsVarSalaries,
-    const RsRef& /*RsVarSalariesHisto*/, const std::string& sNomcalcul) {
-  heures::HS_NuitFeriePlus14Prec(*this, InfosSalaries, Rubrique, RsVarSalaries, sNomcalcul);
+  HeuresSuppDuMoisPrecedent(*this, s, r, RsVarSalaries, l);
 }
 
 }  // namespace orvalis
