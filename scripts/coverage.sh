@@ -1,33 +1,46 @@
 #!/usr/bin/env bash
-# Builds the engine and its tools with gcov instrumentation, runs the tests that assert
-# results (unit tests and golden cases; not the fuzz replays, which only check that nothing
-# breaks) and prints line and branch coverage per subsystem, then in total. The HTML report goes to build-coverage/coverage/index.html.
+# Line and branch coverage of the tests that assert results (unit tests and golden cases; not
+# the fuzz replays, which only check that nothing breaks), per subsystem, then in total. The
+# HTML report goes to BUILD/coverage/index.html.
 # Branches: those of thrown exceptions and those the compiler cannot reach are left out.
 # Then the floor: the engine (its seven subsystems together) must keep at least
 # ORVALIS_FLOOR_LINES % of its lines and ORVALIS_FLOOR_BRANCHES % of its branches, or the
 # script fails (defaults below; docs/robustness.md says where they come from).
+#
+#   scripts/coverage.sh        builds build-coverage/ with gcov, runs the tests, reports
+#   scripts/coverage.sh BUILD  reports on BUILD, a build made with -DORVALIS_COVERAGE=ON whose
+#                              tests have just run (scripts/test.sh passes its sanitizer build)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc 2>/dev/null || echo 2)
-lanceur=()
-command -v ccache >/dev/null 2>&1 && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
-cmake -S . -B build-coverage -DCMAKE_BUILD_TYPE=Debug -DORVALIS_COVERAGE=ON \
-  -DORVALIS_BENCHMARKS=OFF "${lanceur[@]}" >/dev/null
-cmake --build build-coverage -j"$jobs"
-find build-coverage -name '*.gcda' -delete
-ctest --test-dir build-coverage -j"$jobs" --output-on-failure -E '^fuzz\.' >/dev/null
+if [ $# -ge 1 ]; then
+  build=$1
+  if ! find "$build" -name '*.gcda' -print -quit 2>/dev/null | grep -q .; then
+    echo "coverage: $build holds no coverage counts (built with -DORVALIS_COVERAGE=ON, tests run?)" >&2
+    exit 2
+  fi
+else
+  build=build-coverage
+  lanceur=()
+  command -v ccache >/dev/null 2>&1 && lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+  cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Debug -DORVALIS_COVERAGE=ON \
+    -DORVALIS_BENCHMARKS=OFF "${lanceur[@]}" >/dev/null
+  cmake --build "$build" -j"$jobs"
+  find "$build" -name '*.gcda' -delete
+  ctest --test-dir "$build" -j"$jobs" --output-on-failure -E '^fuzz\.' >/dev/null
+fi
 
-options=(--root . --object-directory build-coverage --exclude '.*_test\.cc$'
+options=(--root . --object-directory "$build" --exclude '.*_test\.cc$'
          --exclude '.*_test_.*\.h$' --exclude '.*test_util.*' --exclude '.*test_outils.*'
          --exclude 'fuzz/' --exclude 'tests/' --exclude 'benchmarks/'
          --exclude-throw-branches --exclude-unreachable-branches)
-mkdir -p build-coverage/coverage
-gcovr "${options[@]}" --json build-coverage/coverage/coverage.json \
-  --html-details build-coverage/coverage/index.html >/dev/null
+mkdir -p "$build/coverage"
+gcovr "${options[@]}" -j"$jobs" --json "$build/coverage/coverage.json" \
+  --html-details "$build/coverage/index.html" >/dev/null
 
 # One line per subsystem: lines and branches covered of those instrumented.
-python3 - build-coverage/coverage/coverage.json "${ORVALIS_FLOOR_LINES:-96.0}" \
+python3 - "$build/coverage/coverage.json" "${ORVALIS_FLOOR_LINES:-96.0}" \
   "${ORVALIS_FLOOR_BRANCHES:-89.0}" <<'PY'
 import json, sys
 data = json.load(open(sys.argv[1]))

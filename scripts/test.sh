@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds the engine, its tools and tests, and passes every test twice: once as built for
 # the hosts, once under AddressSanitizer and UndefinedBehaviorSanitizer, where any report
-# fails the run; the tests of several threads also run under ThreadSanitizer
+# fails the run. That second build also counts coverage: the run fails when the engine's
+# lines or branches fall below their floor (scripts/coverage.sh). The tests of several threads also run under ThreadSanitizer
 # (scripts/tsan.sh). The Python module is built on the first build and its tests run with
 # pytest. Both runs replay the fuzz inputs kept in fuzz/. The store's tests run over SQLite
 # and over a throw-away PostgreSQL server that the test program starts in a temporary folder
@@ -11,8 +12,6 @@
 #
 #   ORVALIS_FUZZ_SECONDS=N  seconds per fuzz target (default 25; 0 skips the fuzz step)
 #   ORVALIS_TSAN=0          skips the ThreadSanitizer step
-#   ORVALIS_COVERAGE=1      also builds with gcov, prints coverage per subsystem and fails
-#                           when the engine's falls below its floor (scripts/coverage.sh)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/setup.sh
@@ -44,11 +43,16 @@ case $pytest_status in
   *) echo "pytest: status $pytest_status" >&2; exit 1 ;;
 esac
 
-cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DORVALIS_SANITIZE=ON -DORVALIS_BENCHMARKS=OFF \
-  "${cache[@]}"
+cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DORVALIS_SANITIZE=ON -DORVALIS_COVERAGE=ON \
+  -DORVALIS_BENCHMARKS=OFF "${cache[@]}"
 cmake --build build-sanitize -j"$jobs"
-ASAN_OPTIONS=detect_leaks=1:halt_on_error=1 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
-  ctest --test-dir build-sanitize --output-on-failure -j"$jobs"
+find build-sanitize -name '*.gcda' -delete
+export ASAN_OPTIONS=detect_leaks=1:halt_on_error=1 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
+# Coverage counts the tests that assert results; the fuzz replays run after the count.
+ctest --test-dir build-sanitize --output-on-failure -j"$jobs" -E '^fuzz\.'
+./scripts/coverage.sh build-sanitize
+ctest --test-dir build-sanitize --output-on-failure -j"$jobs" -R '^fuzz\.'
+unset ASAN_OPTIONS UBSAN_OPTIONS
 
 # The threads' tests once more under ThreadSanitizer (a third build of the engine).
 if [ "${ORVALIS_TSAN:-1}" != 0 ]; then
@@ -57,8 +61,4 @@ fi
 
 if [ "${ORVALIS_FUZZ_SECONDS:-25}" != 0 ]; then
   ./scripts/fuzz.sh
-fi
-
-if [ "${ORVALIS_COVERAGE:-0}" = 1 ]; then
-  ./scripts/coverage.sh
 fi
