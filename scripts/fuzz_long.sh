@@ -34,6 +34,10 @@ if command -v ccache >/dev/null 2>&1; then
   export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
   lanceur=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
+# Runs of several targets side by side build one at a time.
+mkdir -p build-fuzz-long
+exec 9>build-fuzz-long/.construction
+flock 9
 for b in long court; do
   if [ $b = long ]; then dir=build-fuzz-long sans="undefined"; else dir=build-fuzz sans="address,undefined"; fi
   cmake -S . -B $dir -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
@@ -41,6 +45,7 @@ for b in long court; do
     -DORVALIS_BENCHMARKS=OFF "${lanceur[@]}" >/dev/null
   cmake --build $dir -j"$jobs" --target "fuzz_$cible" >/dev/null
 done
+flock -u 9
 
 travail=build-fuzz-long/travail/$cible
 journal=build-fuzz-long/fuzz_$cible.log
