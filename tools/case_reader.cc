@@ -1,6 +1,5 @@
 // Reading and checking a case file: every key, step and argument, before anything runs.
 #include <array>
-#include <memory>
 #include <set>
 #include <string_view>
 
@@ -116,54 +115,62 @@ Etape LitEtape(const Json& etape, const std::string& lieu, TypeMoteur m, bool& c
   return EtapeCall{&op, std::move(appel), Snapshot(etape, lieu)};
 }
 
-// Tracks where the parser stands, to name a key given twice. The path is spelled out only
-// for the error, so that a deeply nested text costs no more than its depth.
-class GardeDoublons {
+// A first reading of the text, event by event, that checks what the parse into a tree does
+// not: a key given twice, and the limits on depth, keys, elements and texts. It keeps only
+// the open arrays and objects, so that it costs no more than the text's length; the path is
+// spelled out only for an error. (The tree parser's own filtering hook scans the array an
+// object ends in, every time one ends: quadratic in the rows of a source.)
+class Verificateur {
  public:
   static constexpr std::size_t kProfondeurMax = 256;
   static constexpr std::size_t kClesMax = 1024;
+  // A text (a value or a key) and an array: far past any designation, code or table a
+  // payroll holds, short of what would hold the machine.
+  static constexpr std::size_t kTexteMax = 65536;
+  static constexpr std::size_t kElementsMax = 100000;
 
-  GardeDoublons() : pile_(std::make_shared<std::vector<Cadre>>()) {}
+  explicit Verificateur(const std::string& nomEntree) : nomEntree_(nomEntree) {}
 
-  // The place of the value being read when the text stopped (a number too large).
-  std::string LieuCourant() const {
-    if (pile_->empty()) return "";
-    const auto& c = pile_->back();
-    return c.objet ? Sous(Lieu(), c.cle) : Indice(Lieu(), c.indice);
+  bool null() { return Valeur(); }
+  bool boolean(bool) { return Valeur(); }
+  bool number_integer(Json::number_integer_t) { return Valeur(); }
+  bool number_unsigned(Json::number_unsigned_t) { return Valeur(); }
+  bool number_float(Json::number_float_t, const Json::string_t&) { return Valeur(); }
+  bool binary(Json::binary_t&) { return Valeur(); }
+  bool string(Json::string_t& texte) {
+    if (!pile_.empty() && texte.size() > kTexteMax)
+      throw ErreurCas(LieuCourant(), "a text longer than " + std::to_string(kTexteMax) + " bytes");
+    return Valeur();
   }
-
-  bool operator()(int, Json::parse_event_t evenement, Json& lu) {
-    using E = Json::parse_event_t;
-    switch (evenement) {
-      case E::object_start:
-      case E::array_start:
-        if (pile_->size() >= kProfondeurMax)
-          throw ErreurCas(LieuCourant(), "nested deeper than " + std::to_string(kProfondeurMax) +
-                                      " arrays and objects");
-        pile_->push_back({evenement == E::object_start, {}, {}, 0});
-        break;
-      case E::key: {
-        auto& c = pile_->back();
-        std::string cle = lu.get<std::string>();
-        if (!c.cles.insert(cle).second) throw ErreurCas(Sous(Lieu(), cle), "key given twice");
-        // The parser files each key of an object after a scan of the others: a bound on
-        // their number keeps the reading of any text short.
-        if (c.cles.size() > kClesMax)
-          throw ErreurCas(Sous(Lieu(), cle), "more than " + std::to_string(kClesMax) +
-                                                 " keys in one object");
-        c.cle = std::move(cle);
-        break;
-      }
-      case E::object_end:
-      case E::array_end:
-        pile_->pop_back();
-        Avance();
-        break;
-      case E::value:
-        Avance();
-        break;
-    }
+  bool start_object(std::size_t) { return Ouvre(true); }
+  bool start_array(std::size_t) { return Ouvre(false); }
+  bool end_object() { return Ferme(); }
+  bool end_array() { return Ferme(); }
+  bool key(Json::string_t& cle) {
+    auto& c = pile_.back();
+    if (cle.size() > kTexteMax)
+      throw ErreurCas(Lieu(), "a key longer than " + std::to_string(kTexteMax) + " bytes");
+    if (!c.cles.insert(cle).second) throw ErreurCas(Sous(Lieu(), cle), "key given twice");
+    // The tree files each key of an object after a scan of the others: a bound on their
+    // number keeps the reading of any text short.
+    if (c.cles.size() > kClesMax)
+      throw ErreurCas(Sous(Lieu(), cle),
+                      "more than " + std::to_string(kClesMax) + " keys in one object");
+    c.cle = cle;
     return true;
+  }
+  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& e) {
+    // "[json.exception.parse_error.101] parse error at line 1, ...": the part after the tag.
+    std::string message = e.what();
+    if (const auto fin = message.find("] "); message.rfind("[json.exception.", 0) == 0 &&
+                                              fin != std::string::npos)
+      message = message.substr(fin + 2);
+    // A number too large for a double is valid JSON: the place of the value is named.
+    if (e.id == 406) {
+      const std::string lieu = LieuCourant();
+      throw ErreurCas(lieu.empty() ? nomEntree_ : lieu, message);
+    }
+    throw ErreurCas(nomEntree_, "not JSON: " + message);
   }
 
  private:
@@ -173,19 +180,41 @@ class GardeDoublons {
     std::string cle;
     std::size_t indice;
   };
+
+  bool Ouvre(bool objet) {
+    if (pile_.size() >= kProfondeurMax)
+      throw ErreurCas(LieuCourant(), "nested deeper than " + std::to_string(kProfondeurMax) +
+                                         " arrays and objects");
+    pile_.push_back({objet, {}, {}, 0});
+    return true;
+  }
+  bool Ferme() {
+    pile_.pop_back();
+    return Valeur();
+  }
+  // A value read whole: the next element of the array it is in.
+  bool Valeur() {
+    if (pile_.empty() || pile_.back().objet) return true;
+    if (++pile_.back().indice > kElementsMax)
+      throw ErreurCas(Lieu(), "more than " + std::to_string(kElementsMax) + " elements in one array");
+    return true;
+  }
+  // The place of the value being read.
+  std::string LieuCourant() const {
+    if (pile_.empty()) return "";
+    const auto& c = pile_.back();
+    return c.objet ? Sous(Lieu(), c.cle) : Indice(Lieu(), c.indice);
+  }
   // The path of the innermost object or array.
   std::string Lieu() const {
     std::string lieu;
-    const auto& pile = *pile_;
-    for (std::size_t i = 0; i + 1 < pile.size(); ++i)
-      lieu = pile[i].objet ? Sous(lieu, pile[i].cle) : Indice(lieu, pile[i].indice);
+    for (std::size_t i = 0; i + 1 < pile_.size(); ++i)
+      lieu = pile_[i].objet ? Sous(lieu, pile_[i].cle) : Indice(lieu, pile_[i].indice);
     return lieu;
   }
-  void Avance() {
-    if (!pile_->empty() && !pile_->back().objet) ++pile_->back().indice;
-  }
-  // Shared: the parser works on its own copy of this object.
-  std::shared_ptr<std::vector<Cadre>> pile_;
+
+  const std::string& nomEntree_;
+  std::vector<Cadre> pile_;
 };
 
 }  // namespace
@@ -219,25 +248,14 @@ const std::vector<DefSource>& TableDesSources() {
 }
 
 Json LitTexteJson(const std::string& texte, const std::string& nomEntree) {
+  if (texte.size() > kCasTailleMax)
+    throw ErreurCas(nomEntree, "larger than 64 MiB (" + std::to_string(kCasTailleMax) + " bytes)");
   if (texte.find_first_not_of(" \t\r\n") == std::string::npos)
     throw ErreurCas(nomEntree, "empty input");
-  GardeDoublons garde;
-  try {
-    return Json::parse(texte, garde);
-  } catch (const Json::exception& e) {
-    // A syntax error, or a number too large for a double (1e999).
-    std::string message = e.what();
-    // "[json.exception.parse_error.101] parse error at line 1, ...": the part after the tag.
-    if (const auto fin = message.find("] "); message.rfind("[json.exception.", 0) == 0 &&
-                                              fin != std::string::npos)
-      message = message.substr(fin + 2);
-    // A number too large for a double is valid JSON: the place of the value is named.
-    if (e.id == 406) {
-      const std::string lieu = garde.LieuCourant();
-      throw ErreurCas(lieu.empty() ? nomEntree : lieu, message);
-    }
-    throw ErreurCas(nomEntree, "not JSON: " + message);
-  }
+  Verificateur verificateur(nomEntree);
+  Json::sax_parse(texte, &verificateur);
+  // Checked: the text is JSON within its limits, and the parse into a tree is linear.
+  return Json::parse(texte);
 }
 
 Cas LitCas(const Json& j) {

@@ -75,7 +75,13 @@ struct Cas {
   std::vector<Etape> etapes;
 };
 
+// The largest case text read: a longer one is an error before it is parsed, and a reader
+// need not take more than one byte past it.
+inline constexpr std::size_t kCasTailleMax = std::size_t{64} << 20;
+
 // The JSON text of a case (objects keep their key order; a key given twice is an error).
+// Limits: kCasTailleMax bytes; 256 levels of arrays and objects; 1,024 keys in an object;
+// 100,000 elements in an array; 65,536 bytes in a text or a key.
 Json LitTexteJson(const std::string& texte, const std::string& nomEntree);
 // The case from its JSON.
 Cas LitCas(const Json& j);

@@ -1,5 +1,6 @@
 #include "tools/case_runner.h"
 
+#include <cstdio>
 #include <set>
 #include <sstream>
 
@@ -84,6 +85,51 @@ TEST(CaseRunnerTest, Nesting256DeepIsReadAnd257IsAnError) {
   EXPECT_EQ(dehors.statut, 2);
   EXPECT_NE(dehors.erreurs.find(": nested deeper than 256 arrays and objects"), std::string::npos)
       << dehors.erreurs.substr(0, 200);
+}
+
+// A designation of n bytes on the line of an Arrondi call's case.
+std::string CasAvecTexteDe(std::size_t n) {
+  return R"({"steps": [{"call": "Arrondi", "args": [1.005, 2]}], "salarie": {"sMatricule": ")" +
+         std::string(n, 'x') + "\"}}";
+}
+
+TEST(CaseRunnerTest, ATextOf65536BytesIsReadAndOneMoreIsAnError) {
+  EXPECT_EQ(Lance(CasAvecTexteDe(65536)).statut, 0);
+  const Issue i = Lance(CasAvecTexteDe(65537));
+  EXPECT_EQ(i.statut, 2);
+  EXPECT_EQ(i.sortie, "");
+  EXPECT_EQ(i.erreurs, "salarie.sMatricule: a text longer than 65536 bytes\n");
+  const Issue cle = Lance(R"({"salarie": {")" + std::string(65537, 'k') + R"(": 1}})");
+  EXPECT_EQ(cle.statut, 2);
+  EXPECT_EQ(cle.erreurs, "salarie: a key longer than 65536 bytes\n");
+}
+
+// A source gRsConstantes of n rows.
+std::string CasAvecLignes(std::size_t n) {
+  std::string lignes;
+  for (std::size_t k = 0; k < n; ++k) lignes += k ? ",{}" : "{}";
+  return R"({"sources": {"gRsConstantes": [)" + lignes + "]}}";
+}
+
+TEST(CaseRunnerTest, AnArrayOf100000ElementsIsReadAndOneMoreIsAnError) {
+  EXPECT_EQ(Lance(CasAvecLignes(100000)).statut, 0);
+  const Issue i = Lance(CasAvecLignes(100001));
+  EXPECT_EQ(i.statut, 2);
+  EXPECT_EQ(i.sortie, "");
+  EXPECT_EQ(i.erreurs, "sources.gRsConstantes: more than 100000 elements in one array\n");
+}
+
+TEST(CaseRunnerTest, AnInputOver64MiBIsAnErrorBeforeItIsRead) {
+  // Spaces are valid JSON around the object: only the size refuses it.
+  std::string texte = "{}";
+  texte.resize((std::size_t{64} << 20) + 1, ' ');
+  const Issue i = Lance(texte);
+  EXPECT_EQ(i.statut, 2);
+  EXPECT_EQ(i.erreurs, "case.json: larger than 64 MiB (67108864 bytes)\n");
+  // At the limit the text is read: here it stops at its second byte.
+  texte.pop_back();
+  texte[1] = 'x';
+  EXPECT_EQ(Lance(texte).erreurs.rfind("case.json: not JSON: parse error at line 1, column 2", 0), 0u);
 }
 
 TEST(CaseRunnerTest, TextErrorsNameTheInput) {
@@ -257,6 +303,29 @@ TEST(CommandLineTest, RunReadsStandardInputAndFiles) {
   EXPECT_EQ(Principal({"run", "/nonexistent/case.json"}, entree, sortie2, erreurs2), 2);
   EXPECT_EQ(sortie2.str(), "");
   EXPECT_EQ(erreurs2.str(), "/nonexistent/case.json: cannot read: No such file or directory\n");
+}
+
+TEST(CommandLineTest, AnInputOver64MiBIsRefusedFromStandardInputAndFromAFile) {
+  std::string texte = "{}";
+  texte.resize(kCasTailleMax + 4096, ' ');
+  std::istringstream entree(texte);
+  std::ostringstream sortie, erreurs;
+  EXPECT_EQ(Principal({"run", "-"}, entree, sortie, erreurs), 2);
+  EXPECT_EQ(sortie.str(), "");
+  EXPECT_EQ(erreurs.str(), "-: larger than 64 MiB (67108864 bytes)\n");
+
+  const std::string chemin = ::testing::TempDir() + "grand_cas.json";
+  {
+    std::FILE* f = std::fopen(chemin.c_str(), "wb");
+    ASSERT_NE(f, nullptr);
+    ASSERT_EQ(std::fwrite(texte.data(), 1, texte.size(), f), texte.size());
+    std::fclose(f);
+  }
+  std::istringstream rien;
+  std::ostringstream sortie2, erreurs2;
+  EXPECT_EQ(Principal({"run", chemin}, rien, sortie2, erreurs2), 2);
+  EXPECT_EQ(erreurs2.str(), chemin + ": larger than 64 MiB (67108864 bytes)\n");
+  std::remove(chemin.c_str());
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstring>
 #include <istream>
-#include <iterator>
 #include <ostream>
 
 #include "tools/case_runner.h"
@@ -46,6 +45,7 @@ int Usage(std::ostream& erreurs, const std::string& probleme) {
   return 2;
 }
 
+// Reads at most one byte past the largest case: enough for the case reader to refuse it.
 bool LitFichier(const std::string& chemin, std::string& texte, std::string& erreur) {
   std::FILE* f = std::fopen(chemin.c_str(), "rb");
   if (f == nullptr) {
@@ -54,7 +54,8 @@ bool LitFichier(const std::string& chemin, std::string& texte, std::string& erre
   }
   char tampon[65536];
   std::size_t n;
-  while ((n = std::fread(tampon, 1, sizeof tampon, f)) > 0) texte.append(tampon, n);
+  while (texte.size() <= kCasTailleMax && (n = std::fread(tampon, 1, sizeof tampon, f)) > 0)
+    texte.append(tampon, n);
   const bool ok = !std::ferror(f);
   if (!ok) erreur = std::strerror(errno);
   std::fclose(f);
@@ -87,7 +88,9 @@ int Principal(const std::vector<std::string>& arguments, std::istream& entree,
   const std::string& chemin = arguments[1];
   std::string texte;
   if (chemin == "-") {
-    texte.assign(std::istreambuf_iterator<char>(entree), std::istreambuf_iterator<char>());
+    char tampon[65536];
+    while (texte.size() <= kCasTailleMax && entree.read(tampon, sizeof tampon).gcount() > 0)
+      texte.append(tampon, static_cast<std::size_t>(entree.gcount()));
     if (entree.bad()) {
       erreurs << "-: cannot read standard input\n";
       return 2;
