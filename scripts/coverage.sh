@@ -31,7 +31,7 @@ else
   ctest --test-dir "$build" -j"$jobs" --output-on-failure -E '^fuzz\.' >/dev/null
 fi
 
-options=(--root . --object-directory "$build" --exclude '.*_test\.cc$'
+options=(--root . --object-directory "$build" --exclude-directories '.*/fuzz$' --exclude '.*_test\.cc$'
          --exclude '.*_test_.*\.h$' --exclude '.*test_util.*' --exclude '.*test_outils.*'
          --exclude 'fuzz/' --exclude 'tests/' --exclude 'benchmarks/'
          --exclude-throw-branches --exclude-unreachable-branches)
