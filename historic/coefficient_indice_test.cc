@@ -81,5 +81,19 @@ TEST_F(CoefficientIndiceHistoriqueTest, ElectedOfficialsAndOtherModels) {
   EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 0.25);
 }
 
+// A non-titular on the index ("INDNTI") splits his month as a titular does: a change on the
+// 10th gives 10 - 1 = 9 days on the former index and 30 - 10 + 1 = 21 on the new; in
+// February 2024 a change on its last day, the 29th, gives 29 - 1 = 28 and 30 - 29 + 1 = 2.
+TEST_F(CoefficientIndiceHistoriqueTest, NonTitularSplitsAsATitular) {
+  s.sTypeModele = "INDNTI";
+  Prepare("10/03/2024");
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 9 / 30.0);
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_INouveau, 21 / 30.0);
+  n.gPeriodeEncours = h.gPeriodeEncours = "01/02/2024";
+  Prepare("29/02/2024");
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 28 / 30.0);
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_INouveau, 2 / 30.0);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test

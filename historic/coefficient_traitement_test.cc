@@ -97,5 +97,21 @@ TEST_F(CoefficientTraitementHistoriqueTest, OfficialsAndOtherModels) {
   EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.0);
 }
 
+// A non-titular on the index ("INDNTI") takes his post as a titular: 80 % is paid 6/7, and
+// a non-full-time post of 21 hours of 35 fully worked 21 / 35 x 1 = 0.6.
+TEST_F(CoefficientTraitementHistoriqueTest, NonTitularOnTheIndex) {
+  s.sTypeModele = "INDNTI";
+  s.sOccupationPoste = "P";
+  s.dTauxPoste = 80;
+  Prepare();
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 6.0 / 7.0);
+  s.sOccupationPoste = "T";
+  s.dTauxPosteTNC = 100;
+  s.dHeuresHebdoOrigineTNC = 21;
+  s.dDureeHebdoLegale = 35;
+  Prepare();
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.6);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test
