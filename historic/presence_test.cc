@@ -91,5 +91,42 @@ TEST_F(PresenceHistoriqueTest, ElectedOfficial) {
   EXPECT_EQ(sH.iNBJ_PresenceN, 15);
 }
 
+// A start on the 16th after an index change on the 10th: the change lies before the
+// employee's month, so the former index takes the short count from the start, 30 - 16 = 14,
+// and the new one runs from the change, 30 - 10 + 1 = 21: 35 days for a fortnight.
+TEST_F(PresenceHistoriqueTest, IndexChangeBeforeTheStart) {
+  s.sDateDebut = "16/03/2024";
+  s.sDateChangementIndice = "10/03/2024";
+  Prepare();
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 9 / 30.0);  // 10 - 1
+  EXPECT_EQ(sH.iNBJ_PresenceA, 14);
+  EXPECT_EQ(sH.iNBJ_PresenceN, 21);
+}
+
+// No valid index date leaves both cells at 0: a month never split is a whole month on the
+// new index, 30 days, even for a start on the 16th.
+TEST_F(PresenceHistoriqueTest, CellsNeverSetMakeAWholeMonth) {
+  s.sDateChangementIndice = "";
+  s.sDateDebut = "16/03/2024";
+  Prepare();
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 0.0);
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_INouveau, 0.0);
+  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
+  EXPECT_EQ(sH.iNBJ_PresenceN, 30);
+}
+
+// A start after the month (1 April) is out of it: nothing; a start on 31 March is in it,
+// on day 30 of the month of 30: 30 - 30 + 1 = 1 day.
+TEST_F(PresenceHistoriqueTest, StartAfterTheMonthOrOnItsLastDay) {
+  s.sDateDebut = "01/04/2024";
+  Prepare();
+  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
+  EXPECT_EQ(sH.iNBJ_PresenceN, 0);
+  s.sDateDebut = "31/03/2024";
+  Prepare();
+  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
+  EXPECT_EQ(sH.iNBJ_PresenceN, 1);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test
