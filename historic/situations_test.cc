@@ -118,5 +118,100 @@ TEST_F(SituationsHistoriquesTest, OtherAbsences) {
   EXPECT_DOUBLE_EQ(sH.dTpsTherapeutiqueCoefRI, 5.0);
 }
 
+// Index change on the 11th (presence 10 and 20). Half pay from the 15th to the 20th starts
+// after the change: all 20 - 15 + 1 = 6 days on the new index. From the 5th to the 10th with
+// a change on the 21st (presence 20 and 10): all 10 - 5 + 1 = 6 on the former one.
+TEST_F(SituationsHistoriquesTest, HalfPayWhollyOnOneSideOfTheChange) {
+  s.sDateChangementIndice = "11/03/2024";
+  Situation(1, "DT", "15/03/2024", "20/03/2024");
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 0);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 6);
+  s.sDateChangementIndice = "21/03/2024";
+  Situation(1, "DT", "05/03/2024", "10/03/2024");
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_PresenceA, 20);  // 21 - 1
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 6);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 0);
+}
+
+// A change next month (15 April) leaves the new index empty: half pay from the 1st to the
+// 20th takes the change's day number on the former index, 15 - 1 = 14, none on the new.
+// With no valid index date neither cell is set: the half pay counts nothing, while the
+// presence is a whole month.
+TEST_F(SituationsHistoriquesTest, HalfPayWithAnEmptyNewIndex) {
+  s.sDateChangementIndice = "15/04/2024";
+  Situation(1, "DT", "01/03/2024", "20/03/2024");
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_PresenceA, 29);  // the short count, 30 - 1
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 14);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 0);
+  s.sDateChangementIndice = "";
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_PresenceN, 30);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 0);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 0);
+}
+
+// Half pay from the 5th to the 20th, the change on the 20th itself (presence 19 and 11):
+// 20 - 5 = 15 days on the former index; the last day is not past the change, so the new
+// one takes all 20 - 5 + 1 = 16, lowered to its presence of 30 - 20 + 1 = 11.
+TEST_F(SituationsHistoriquesTest, SituationEndingOnTheChangeDay) {
+  s.sDateChangementIndice = "20/03/2024";
+  Situation(1, "DT", "05/03/2024", "20/03/2024");
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 15);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 11);
+}
+
+// Change on the 11th (presence 10 and 20). "DT" from the 5th to the 15th: 11 - 5 = 6 and
+// 15 - 11 + 1 = 5. Then "LD" from the 20th to the 25th starts after the change and after
+// the former index's 6 days: all 25 - 20 + 1 = 6 more on the new, 5 + 6 = 11.
+TEST_F(SituationsHistoriquesTest, SecondSituationAfterTheChange) {
+  s.sDateChangementIndice = "11/03/2024";
+  Situation(1, "DT", "05/03/2024", "15/03/2024");
+  Situation(2, "LD", "20/03/2024", "25/03/2024");
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 6);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 11);
+}
+
+// Change on the 11th (presence 10 and 20), two half pays that overlap. "DT" from the 1st to
+// the 10th ends before the change: all 10 days on the former index. "LD" from the 5th to
+// the 15th adds 11 - 5 = 6 there, 16, lowered to the presence 10, and 15 - 11 + 1 = 5 on the
+// new.
+TEST_F(SituationsHistoriquesTest, OverlappingSituationsCappedByPresence) {
+  s.sDateChangementIndice = "11/03/2024";
+  Situation(1, "DT", "01/03/2024", "10/03/2024");
+  Situation(2, "LD", "05/03/2024", "15/03/2024");
+  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 10);
+  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 5);
+}
+
+// A detachment of all March (1st to 31st: 30 days) with the index changing next month: the
+// presence is the short count 29 + 0, and the detachment is lowered to it. A detachment
+// over before the month writes 0 over what the record held.
+TEST_F(SituationsHistoriquesTest, DetachmentWithinThePresence) {
+  s.sDateChangementIndice = "15/04/2024";
+  Situation(1, "D", "01/03/2024", "31/03/2024");
+  Prepare({"NBRE_JOUR_DETACHEMENT"});
+  EXPECT_EQ(sH.iNBJ_DETACHEMENT, 29);
+  s.iNBJ_DETACHEMENT = 7;
+  Situation(1, "M", "01/01/2024", "31/01/2024");
+  Prepare({"NBRE_JOUR_DETACHEMENT"});
+  EXPECT_EQ(sH.iNBJ_DETACHEMENT, 0);
+}
+
+// Sick leave "GM" from the 21st, no end (30 - 21 + 1 = 10), and "LM" from the 1st to the
+// 5th (5): both stand whole, 15 days of absence and no therapeutic part-time.
+TEST_F(SituationsHistoriquesTest, LongSickLeavesStandWhole) {
+  Situation(1, "GM", "21/03/2024", "");
+  Situation(2, "LM", "01/03/2024", "05/03/2024");
+  Prepare({"NBRE_JOUR_AUTREABSENCE"});
+  EXPECT_EQ(sH.iNBJ_AutreAbsence, 15);
+  EXPECT_EQ(sH.iNBJ_TpsTherapeutique, 0);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test
