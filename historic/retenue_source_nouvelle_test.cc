@@ -287,5 +287,34 @@ TEST_F(RetenueNouvelleDeuxMoteurs, FrameAndScaleAsTheCurrentEngine) {
   EXPECT_DOUBLE_EQ(k, 910);  // "EluCste3T"
 }
 
+// A mandate with a net of 0 or less gets no expenses (its column stays 0) and its net still
+// counts. Principal 2000 under the ceiling: net 1810.38 as above, expenses 50 (its net is
+// above them). A mandate of 0: net 0, taxable 1810.38 - 50 = 1760.38: 76 as alone. A mandate
+// of -100 (a total of 1900, under the ceiling: all tranche A): IRCANTEC -2.8, CSG -100 x
+// 0.9825 x 6.8 % = -6.681, net -90.519; taxable 1810.38 - 90.519 - 50 = 1669.861: 10 % of
+// 1669 less 100 = 66.90.
+TEST_F(RetenueNouvelleDeuxMoteurs, MandateWithNoNetGetsNoExpenses) {
+  const auto Un = [](double brute) {
+    return Mandats({{false, "Adjoint", "01/01/2024", "31/12/2026", brute, brute, 0.0, 0.0, 0.0}});
+  };
+  RsRef mandatsH = Un(0);
+  Calcule(Un(0), mandatsH);
+  Ligne(rH, 1760, 76);
+  EXPECT_NEAR(Colonne(mandatsH, 0, "MontantRemunerationNette").Nombre(), 0, kEps);
+  EXPECT_NEAR(Colonne(mandatsH, 0, "MontantTotalFraisInd").Nombre(), 0, kEps);
+  ASSERT_EQ(NbLignes(rH.rsRetenueALaSourceNouvelleMethode), 3u);
+  EXPECT_NEAR(Detail(1, "FraisEmploi"), 0, kEps);
+  EXPECT_NEAR(Detail(2, "TotalFrais"), 50, kEps);
+  mandatsH = Un(-100);
+  Calcule(Un(-100), mandatsH);
+  Ligne(rH, 1669, 66.9);
+  EXPECT_NEAR(Colonne(mandatsH, 0, "MontantCotisationIrcantecTA").Nombre(), -2.8, 1e-9);
+  EXPECT_NEAR(Colonne(mandatsH, 0, "MontantCotisationCSG").Nombre(), -6.681, 1e-9);
+  EXPECT_NEAR(Colonne(mandatsH, 0, "MontantRemunerationNette").Nombre(), -90.519, 1e-9);
+  EXPECT_NEAR(Colonne(mandatsH, 0, "MontantTotalFraisInd").Nombre(), 0, kEps);
+  EXPECT_NEAR(Detail(2, "NetImposable"), 1810.38 - 90.519, 1e-9);
+  EXPECT_NEAR(Detail(2, "TotalFrais"), 50, kEps);
+}
+
 }  // namespace
 }  // namespace orvalis
