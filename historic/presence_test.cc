@@ -1,5 +1,7 @@
 // Days of presence in the two cells of the historic month, after its index coefficients,
 // beside the current engine on the same record.
+#include <utility>
+
 #include "historic/historique_test_outils.h"
 
 namespace orvalis::historique_test {
@@ -20,6 +22,11 @@ class PresenceHistoriqueTest : public DeuxMoteurs {
       ASSERT_TRUE(n.Appel_Methode_Preparation_Calcul_General(nom, sN)) << nom;
       ASSERT_TRUE(h.Appel_Methode_Preparation_Calcul_General(nom, sH)) << nom;
     }
+  }
+  // The historic month prepared: its days on the former and on the new index.
+  std::pair<int, int> Presence() {
+    Prepare();
+    return {sH.iNBJ_PresenceA, sH.iNBJ_PresenceN};
   }
 };
 
@@ -97,10 +104,8 @@ TEST_F(PresenceHistoriqueTest, ElectedOfficial) {
 TEST_F(PresenceHistoriqueTest, IndexChangeBeforeTheStart) {
   s.sDateDebut = "16/03/2024";
   s.sDateChangementIndice = "10/03/2024";
-  Prepare();
+  EXPECT_EQ(Presence(), std::make_pair(14, 21));
   EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 9 / 30.0);  // 10 - 1
-  EXPECT_EQ(sH.iNBJ_PresenceA, 14);
-  EXPECT_EQ(sH.iNBJ_PresenceN, 21);
 }
 
 // No valid index date leaves both cells at 0: a month never split is a whole month on the
@@ -108,24 +113,17 @@ TEST_F(PresenceHistoriqueTest, IndexChangeBeforeTheStart) {
 TEST_F(PresenceHistoriqueTest, CellsNeverSetMakeAWholeMonth) {
   s.sDateChangementIndice = "";
   s.sDateDebut = "16/03/2024";
-  Prepare();
-  EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien, 0.0);
-  EXPECT_DOUBLE_EQ(sH.dCoefficient_INouveau, 0.0);
-  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
-  EXPECT_EQ(sH.iNBJ_PresenceN, 30);
+  EXPECT_EQ(Presence(), std::make_pair(0, 30));
+  EXPECT_DOUBLE_EQ(sH.dCoefficient_IAncien + sH.dCoefficient_INouveau, 0.0);
 }
 
 // A start after the month (1 April) is out of it: nothing; a start on 31 March is in it,
 // on day 30 of the month of 30: 30 - 30 + 1 = 1 day.
 TEST_F(PresenceHistoriqueTest, StartAfterTheMonthOrOnItsLastDay) {
   s.sDateDebut = "01/04/2024";
-  Prepare();
-  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
-  EXPECT_EQ(sH.iNBJ_PresenceN, 0);
+  EXPECT_EQ(Presence(), std::make_pair(0, 0));
   s.sDateDebut = "31/03/2024";
-  Prepare();
-  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
-  EXPECT_EQ(sH.iNBJ_PresenceN, 1);
+  EXPECT_EQ(Presence(), std::make_pair(0, 1));
 }
 
 }  // namespace

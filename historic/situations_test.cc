@@ -1,5 +1,7 @@
 // The situations of the record counted in the two cells of the historic month, beside the
 // older form of the current engine on the same record.
+#include <utility>
+
 #include "historic/historique_test_outils.h"
 
 namespace orvalis::historique_test {
@@ -27,6 +29,12 @@ class SituationsHistoriquesTest : public DeuxMoteurs {
       ASSERT_TRUE(h.Appel_Methode_Preparation_Calcul_General(nom, sH)) << nom;
     }
     for (const char* nom : noms) ASSERT_TRUE(h.Appel_Methode_Preparation_Calcul_General(nom, sH));
+  }
+  // Half pay after an index change on sIndice: its days on the former and on the new index.
+  std::pair<int, int> DemiTraitement(const char* sIndice) {
+    s.sDateChangementIndice = sIndice;
+    Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+    return {sH.iNBJ_DemiTraitementA, sH.iNBJ_DemiTraitementN};
   }
 };
 
@@ -122,17 +130,11 @@ TEST_F(SituationsHistoriquesTest, OtherAbsences) {
 // after the change: all 20 - 15 + 1 = 6 days on the new index. From the 5th to the 10th with
 // a change on the 21st (presence 20 and 10): all 10 - 5 + 1 = 6 on the former one.
 TEST_F(SituationsHistoriquesTest, HalfPayWhollyOnOneSideOfTheChange) {
-  s.sDateChangementIndice = "11/03/2024";
   Situation(1, "DT", "15/03/2024", "20/03/2024");
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 0);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 6);
-  s.sDateChangementIndice = "21/03/2024";
+  EXPECT_EQ(DemiTraitement("11/03/2024"), std::make_pair(0, 6));
   Situation(1, "DT", "05/03/2024", "10/03/2024");
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(DemiTraitement("21/03/2024"), std::make_pair(6, 0));
   EXPECT_EQ(sH.iNBJ_PresenceA, 20);  // 21 - 1
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 6);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 0);
 }
 
 // A change next month (15 April) leaves the new index empty: half pay from the 1st to the
@@ -140,40 +142,28 @@ TEST_F(SituationsHistoriquesTest, HalfPayWhollyOnOneSideOfTheChange) {
 // With no valid index date neither cell is set: the half pay counts nothing, while the
 // presence is a whole month.
 TEST_F(SituationsHistoriquesTest, HalfPayWithAnEmptyNewIndex) {
-  s.sDateChangementIndice = "15/04/2024";
   Situation(1, "DT", "01/03/2024", "20/03/2024");
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(DemiTraitement("15/04/2024"), std::make_pair(14, 0));
   EXPECT_EQ(sH.iNBJ_PresenceA, 29);  // the short count, 30 - 1
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 14);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 0);
-  s.sDateChangementIndice = "";
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
+  EXPECT_EQ(DemiTraitement(""), std::make_pair(0, 0));
   EXPECT_EQ(sH.iNBJ_PresenceN, 30);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 0);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 0);
 }
 
 // Half pay from the 5th to the 20th, the change on the 20th itself (presence 19 and 11):
 // 20 - 5 = 15 days on the former index; the last day is not past the change, so the new
 // one takes all 20 - 5 + 1 = 16, lowered to its presence of 30 - 20 + 1 = 11.
 TEST_F(SituationsHistoriquesTest, SituationEndingOnTheChangeDay) {
-  s.sDateChangementIndice = "20/03/2024";
   Situation(1, "DT", "05/03/2024", "20/03/2024");
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 15);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 11);
+  EXPECT_EQ(DemiTraitement("20/03/2024"), std::make_pair(15, 11));
 }
 
 // Change on the 11th (presence 10 and 20). "DT" from the 5th to the 15th: 11 - 5 = 6 and
 // 15 - 11 + 1 = 5. Then "LD" from the 20th to the 25th starts after the change and after
 // the former index's 6 days: all 25 - 20 + 1 = 6 more on the new, 5 + 6 = 11.
 TEST_F(SituationsHistoriquesTest, SecondSituationAfterTheChange) {
-  s.sDateChangementIndice = "11/03/2024";
   Situation(1, "DT", "05/03/2024", "15/03/2024");
   Situation(2, "LD", "20/03/2024", "25/03/2024");
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 6);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 11);
+  EXPECT_EQ(DemiTraitement("11/03/2024"), std::make_pair(6, 11));
 }
 
 // Change on the 11th (presence 10 and 20), two half pays that overlap. "DT" from the 1st to
@@ -181,12 +171,9 @@ TEST_F(SituationsHistoriquesTest, SecondSituationAfterTheChange) {
 // the 15th adds 11 - 5 = 6 there, 16, lowered to the presence 10, and 15 - 11 + 1 = 5 on the
 // new.
 TEST_F(SituationsHistoriquesTest, OverlappingSituationsCappedByPresence) {
-  s.sDateChangementIndice = "11/03/2024";
   Situation(1, "DT", "01/03/2024", "10/03/2024");
   Situation(2, "LD", "05/03/2024", "15/03/2024");
-  Prepare({"NBRE_JOUR_DEMI_TRAITEMENT"});
-  EXPECT_EQ(sH.iNBJ_DemiTraitementA, 10);
-  EXPECT_EQ(sH.iNBJ_DemiTraitementN, 5);
+  EXPECT_EQ(DemiTraitement("11/03/2024"), std::make_pair(10, 5));
 }
 
 // A detachment of all March (1st to 31st: 30 days) with the index changing next month: the
