@@ -54,15 +54,19 @@ TEST_F(CoefficientTraitementHistoriqueTest, NoTherapeuticPartTimeCorrection) {
   EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.5);
 }
 
-// A non-full-time post of 28 hours of 35, fully worked: 28 / 35 x 1 = 0.8.
+// A non-full-time post of 28 hours of 35, fully worked: 28 / 35 x 1 = 0.8, for a titular
+// and for a non-titular on the index ("INDNTI") alike.
 TEST_F(CoefficientTraitementHistoriqueTest, NonFullTimePost) {
   s.sOccupationPoste = "T";
   s.dTauxPosteTNC = 100;
   s.dHeuresHebdoOrigineTNC = 28;
   s.dDureeHebdoLegale = 35;
-  Prepare();
-  EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.8);
-  EXPECT_DOUBLE_EQ(sN.dCoefficient_TraitementTN, 0.8);
+  for (const char* modele : {"INDTIT", "INDNTI"}) {
+    s.sTypeModele = modele;
+    Prepare();
+    EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.8) << modele;
+    EXPECT_DOUBLE_EQ(sN.dCoefficient_TraitementTN, 0.8) << modele;
+  }
 }
 
 // Weekly hours: 17.5 / 35 = 0.5; monthly with a legal week of 39: 84.5 / 169 = 0.5; with no
@@ -95,22 +99,6 @@ TEST_F(CoefficientTraitementHistoriqueTest, OfficialsAndOtherModels) {
   s.dCoefficient_Traitement = 0.7;
   Prepare();
   EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.0);
-}
-
-// A non-titular on the index ("INDNTI") takes his post as a titular: 80 % is paid 6/7, and
-// a non-full-time post of 21 hours of 35 fully worked 21 / 35 x 1 = 0.6.
-TEST_F(CoefficientTraitementHistoriqueTest, NonTitularOnTheIndex) {
-  s.sTypeModele = "INDNTI";
-  s.sOccupationPoste = "P";
-  s.dTauxPoste = 80;
-  Prepare();
-  EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 6.0 / 7.0);
-  s.sOccupationPoste = "T";
-  s.dTauxPosteTNC = 100;
-  s.dHeuresHebdoOrigineTNC = 21;
-  s.dDureeHebdoLegale = 35;
-  Prepare();
-  EXPECT_DOUBLE_EQ(sH.dCoefficient_Traitement, 0.6);
 }
 
 }  // namespace

@@ -124,6 +124,13 @@ TEST_F(SituationsHistoriquesTest, OtherAbsences) {
   EXPECT_EQ(sH.iNBJ_AutreAbsence, 15);
   EXPECT_EQ(sH.iNBJ_TpsTherapeutique, 10);
   EXPECT_DOUBLE_EQ(sH.dTpsTherapeutiqueCoefRI, 5.0);
+  // Long sick leave "GM" from the 21st (30 - 21 + 1 = 10 days) and "LM" from the 1st to the
+  // 5th (5) stand whole: 15 days of absence.
+  Situation(1, "GM", "21/03/2024", "");
+  Situation(2, "LM", "01/03/2024", "05/03/2024");
+  Prepare({"NBRE_JOUR_AUTREABSENCE"});
+  EXPECT_EQ(sH.iNBJ_AutreAbsence, 15);
+  EXPECT_EQ(sH.iNBJ_TpsTherapeutique, 0);
 }
 
 // Index change on the 11th (presence 10 and 20). Half pay from the 15th to the 20th starts
@@ -188,16 +195,6 @@ TEST_F(SituationsHistoriquesTest, DetachmentWithinThePresence) {
   Situation(1, "M", "01/01/2024", "31/01/2024");
   Prepare({"NBRE_JOUR_DETACHEMENT"});
   EXPECT_EQ(sH.iNBJ_DETACHEMENT, 0);
-}
-
-// Sick leave "GM" from the 21st, no end (30 - 21 + 1 = 10), and "LM" from the 1st to the
-// 5th (5): both stand whole, 15 days of absence and no therapeutic part-time.
-TEST_F(SituationsHistoriquesTest, LongSickLeavesStandWhole) {
-  Situation(1, "GM", "21/03/2024", "");
-  Situation(2, "LM", "01/03/2024", "05/03/2024");
-  Prepare({"NBRE_JOUR_AUTREABSENCE"});
-  EXPECT_EQ(sH.iNBJ_AutreAbsence, 15);
-  EXPECT_EQ(sH.iNBJ_TpsTherapeutique, 0);
 }
 
 }  // namespace
