@@ -126,5 +126,15 @@ TEST_F(PresenceHistoriqueTest, StartAfterTheMonthOrOnItsLastDay) {
   EXPECT_EQ(Presence(), std::make_pair(0, 1));
 }
 
+// A month given by name in place of the month of pay: a start on 16 February counts the
+// whole of March, 30 days, but 30 - 16 + 1 = 15 in February (no end: its day 30).
+TEST_F(PresenceHistoriqueTest, MonthGivenByName) {
+  s.sDateDebut = "16/02/2024";
+  EXPECT_EQ(Presence(), std::make_pair(0, 30));
+  h.CalculNombreJourPresence(sH, "01/02/2024");
+  EXPECT_EQ(sH.iNBJ_PresenceA, 0);
+  EXPECT_EQ(sH.iNBJ_PresenceN, 15);
+}
+
 }  // namespace
 }  // namespace orvalis::historique_test
