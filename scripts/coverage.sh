@@ -3,8 +3,9 @@
 # the fuzz replays, which only check that nothing breaks), per subsystem, then in total. The
 # HTML report goes to BUILD/coverage/index.html.
 # Branches: those of thrown exceptions and those the compiler cannot reach are left out.
-# Then the floor: the engine (its seven subsystems together) must keep at least
-# ORVALIS_FLOOR_LINES % of its lines and ORVALIS_FLOOR_BRANCHES % of its branches, or the
+# Then the floors: the engine (its seven subsystems together) must keep at least
+# ORVALIS_FLOOR_LINES % of its lines and ORVALIS_FLOOR_BRANCHES % of its branches, and each
+# of the seven ORVALIS_FLOOR_SUBSYSTEM_LINES % and ORVALIS_FLOOR_SUBSYSTEM_BRANCHES %, or the
 # script fails (defaults below; docs/robustness.md says where they come from).
 #
 #   scripts/coverage.sh        builds build-coverage/ with gcov, runs the tests, reports
@@ -40,11 +41,12 @@ gcovr "${options[@]}" -j"$jobs" --json "$build/coverage/coverage.json" \
   --html-details "$build/coverage/index.html" >/dev/null
 
 # One line per subsystem: lines and branches covered of those instrumented.
-python3 - "$build/coverage/coverage.json" "${ORVALIS_FLOOR_LINES:-96.0}" \
-  "${ORVALIS_FLOOR_BRANCHES:-89.0}" <<'PY'
+python3 - "$build/coverage/coverage.json" "${ORVALIS_FLOOR_LINES:-98.0}" \
+  "${ORVALIS_FLOOR_BRANCHES:-89.0}" "${ORVALIS_FLOOR_SUBSYSTEM_LINES:-95.0}" \
+  "${ORVALIS_FLOOR_SUBSYSTEM_BRANCHES:-85.0}" <<'PY'
 import json, sys
 data = json.load(open(sys.argv[1]))
-floor_lines, floor_branches = float(sys.argv[2]), float(sys.argv[3])
+floor_lines, floor_branches, sub_lines, sub_branches = map(float, sys.argv[2:6])
 ENGINE = {"frame", "generic", "period", "salary", "absences", "contributions", "historic"}
 tot = {}
 for f in data["files"]:
@@ -71,11 +73,21 @@ eng = [0, 0, 0, 0]
 for sub in ENGINE & tot.keys():
     eng = [x + y for x, y in zip(eng, tot[sub])]
 print(f"{'engine':<16}{eng[1]:>7}/{eng[0]:<6} {pc(eng[1], eng[0])}{eng[3]:>8}/{eng[2]:<6} {pc(eng[3], eng[2])}")
-lines = 100.0 * eng[1] / eng[0] if eng[0] else 0.0
-branches = 100.0 * eng[3] / eng[2] if eng[2] else 0.0
-if lines < floor_lines or branches < floor_branches:
-    print(f"coverage: the engine is below its floor ({lines:.1f}% of lines for {floor_lines}%, "
-          f"{branches:.1f}% of branches for {floor_branches}%)", file=sys.stderr)
+def pct(a, b):
+    return 100.0 * a / b if b else 0.0
+below = []
+if pct(eng[1], eng[0]) < floor_lines or pct(eng[3], eng[2]) < floor_branches:
+    below.append(f"the engine has {pct(eng[1], eng[0]):.1f}% of lines and {pct(eng[3], eng[2]):.1f}% "
+                 f"of branches, its floor {floor_lines}% and {floor_branches}%")
+for sub in sorted(ENGINE):
+    l = tot.get(sub, [0, 0, 0, 0])
+    if pct(l[1], l[0]) < sub_lines or pct(l[3], l[2]) < sub_branches:
+        below.append(f"{sub}/ has {pct(l[1], l[0]):.1f}% of lines and {pct(l[3], l[2]):.1f}% of "
+                     f"branches, the floor of each subsystem {sub_lines}% and {sub_branches}%")
+if below:
+    for b in below:
+        print(f"coverage: below the floor: {b}", file=sys.stderr)
     sys.exit(1)
-print(f"coverage: the engine keeps its floor ({floor_lines}% of lines, {floor_branches}% of branches)")
+print(f"coverage: the engine keeps its floor ({floor_lines}% of lines, {floor_branches}% of "
+      f"branches; each subsystem {sub_lines}% and {sub_branches}%)")
 PY
