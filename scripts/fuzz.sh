@@ -34,7 +34,7 @@ for c in $cibles; do
   mkdir -p "$travail"
   echo "fuzz: $c for ${secondes}s"
   ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
-    "build-fuzz/fuzz/fuzz_$c" -max_total_time="$secondes" -timeout=10 -rss_limit_mb=2048 \
+    "build-fuzz/fuzz/fuzz_$c" -max_total_time="$secondes" -timeout=30 -rss_limit_mb=2048 \
       -print_final_stats=1 -artifact_prefix="build-fuzz/artefacts/$c-" \
       "$travail" "fuzz/corpus/$c" "fuzz/regression/$c" 2>"build-fuzz/fuzz_$c.log" || {
     tail -40 "build-fuzz/fuzz_$c.log"

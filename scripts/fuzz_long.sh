@@ -54,8 +54,10 @@ commit=$(git rev-parse --short HEAD 2>/dev/null || echo '?')
 git diff --quiet HEAD 2>/dev/null || commit="$commit+"
 debut=$(date -u '+%Y-%m-%d %H:%M')
 echo "fuzz_long: $cible, $executions executions from $debut UTC (log: $journal)"
+# A hang is an input that runs 30 s: some rightly take seconds (a daily-benefits period of
+# 4,000 years gives one row to each of its 48,000 months), and a loaded machine stretches them.
 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
-  "build-fuzz-long/fuzz/fuzz_$cible" -runs="$executions" -timeout=10 -rss_limit_mb=2048 \
+  "build-fuzz-long/fuzz/fuzz_$cible" -runs="$executions" -timeout=30 -rss_limit_mb=2048 \
     -print_final_stats=1 -artifact_prefix="build-fuzz-long/artefacts/$cible-" \
     "$travail" "fuzz/corpus/$cible" "fuzz/regression/$cible" >"$journal" 2>&1 || {
   tail -40 "$journal"
@@ -66,7 +68,7 @@ UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
 # Every input kept, once each, under AddressSanitizer.
 echo "fuzz_long: replaying $(ls "$travail" | wc -l) inputs under AddressSanitizer"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
-  "build-fuzz/fuzz/fuzz_$cible" -runs=0 -timeout=10 -rss_limit_mb=2048 \
+  "build-fuzz/fuzz/fuzz_$cible" -runs=0 -timeout=30 -rss_limit_mb=2048 \
     -artifact_prefix="build-fuzz-long/artefacts/$cible-asan-" "$travail" \
     >"build-fuzz-long/rejeu_$cible.log" 2>&1 || {
   tail -40 "build-fuzz-long/rejeu_$cible.log"
