@@ -79,11 +79,15 @@ std::size_t MemoryRecordset::HashSansCasse::operator()(std::string_view s) const
   return h;
 }
 
-bool MemoryRecordset::EgalSansCasse::operator()(std::string_view a, std::string_view b) const {
+bool MemeNomDeColonne(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (std::size_t i = 0; i < a.size(); ++i)
     if (Minuscule(a[i]) != Minuscule(b[i])) return false;
   return true;
+}
+
+bool MemoryRecordset::EgalSansCasse::operator()(std::string_view a, std::string_view b) const {
+  return MemeNomDeColonne(a, b);
 }
 
 MemoryRecordset::MemoryRecordset(const std::vector<std::string>& columns) {

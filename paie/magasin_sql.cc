@@ -151,6 +151,20 @@ ValeurChamp ValeurDeCellule(const Champ<R>& c, const Requete& r, int i, const st
 
 RsRef Table(const std::vector<std::string>& colonnes) { return NouveauRecordset(colonnes); }
 
+// Each fixed value is a column of the engine's table of fixed constants, and of its history
+// beside "Mois": a name, that no other fixed value takes, whatever its case.
+void VerifieColonneFixe(const std::string& colonne, const std::vector<std::string>& prises,
+                        const std::string& ligne) {
+  if (colonne.empty()) Erreur("valeurs_fixes", ligne, "colonne", "a fixed value needs a name");
+  if (MemeNomDeColonne(colonne, "Mois"))
+    Erreur("valeurs_fixes", ligne, "colonne",
+           "'" + colonne + "' is the month of the history of fixed values, not a fixed value");
+  for (const auto& p : prises)
+    if (MemeNomDeColonne(p, colonne))
+      Erreur("valeurs_fixes", ligne, "colonne",
+             "'" + colonne + "' and '" + p + "' differ in case only: one fixed value, two names");
+}
+
 void AjouteLigne(Recordset& rs, const std::vector<std::string>& colonnes,
                  const std::vector<Value>& valeurs) {
   rs.AddNew();
@@ -240,7 +254,10 @@ class MagasinSql final : public Magasin {
     while (r.Pas()) {
       const std::string ligne = fmt::format("row {}", r.Entier(0));
       const std::string colonne = TexteOuVide(r, 1, "valeurs_fixes", ligne);
-      if (!parColonne.contains(colonne)) colonnes.push_back(colonne);
+      if (!parColonne.contains(colonne)) {
+        VerifieColonneFixe(colonne, colonnes, ligne);
+        colonnes.push_back(colonne);
+      }
       parColonne[colonne].Ajoute(TexteOuVide(r, 2, "valeurs_fixes", ligne),
                                  Nombre(r, 3, "valeurs_fixes", ligne));
     }

@@ -263,6 +263,40 @@ TEST_P(MagasinTest, ValeursEnVigueurAuMois) {
   EXPECT_TRUE(aout.constantesFixesHistorique->Field("Point").EstNull());
 }
 
+TEST_P(MagasinTest, NomDeValeurFixeVideDoubleOuReserveEstRefuse) {
+  const std::string c = Commune(1);
+  auto ajoute = [&](const std::string& nom) {
+    Sql(c, "DELETE FROM valeurs_fixes WHERE libelle = 'essai'");
+    Sql(c, "INSERT INTO valeurs_fixes VALUES ('" + nom + "', '202402', 1.0, 'essai')");
+  };
+  auto rang = [&](const std::string& nom, const std::string& depuis) {
+    return std::to_string(Nombre(c, "SELECT rowid FROM valeurs_fixes WHERE colonne = '" + nom +
+                                        "' AND depuis = '" + depuis + "'"));
+  };
+  ajoute("");
+  EXPECT_EQ(Refus(c), "table 'valeurs_fixes', row " + rang("", "202402") +
+                          ", column 'colonne': a fixed value needs a name");
+  // "Point" is in the commune since January: "POINT" would be a second name of that column.
+  // The rows are read in the order of their names: the second of the two is refused.
+  ajoute("POINT");
+  const std::string premier = Texte(
+      c, "SELECT colonne FROM valeurs_fixes WHERE colonne IN ('Point', 'POINT') ORDER BY colonne LIMIT 1");
+  const std::string second = premier == "Point" ? "POINT" : "Point";
+  EXPECT_EQ(Refus(c), "table 'valeurs_fixes', row " +
+                          rang(second, second == "Point" ? "202401" : "202402") +
+                          ", column 'colonne': '" + second + "' and '" + premier +
+                          "' differ in case only: one fixed value, two names");
+  ajoute("mois");
+  EXPECT_EQ(Refus(c), "table 'valeurs_fixes', row " + rang("mois", "202402") +
+                          ", column 'colonne': 'mois' is the month of the history of fixed "
+                          "values, not a fixed value");
+  // A name of its own is read, and the same name on two rows is one value over time.
+  ajoute("PointBis");
+  EXPECT_EQ(Refus(c), "(no error)");
+  ajoute("Point");
+  EXPECT_EQ(Refus(c), "(no error)");
+}
+
 TEST_P(MagasinTest, MoisDejaCalculeRemplaceSeulementSurDemande) {
   const std::string c = Commune(2);
   auto m = OuvreMagasin(c);

@@ -56,6 +56,11 @@ class DossierTest : public ::testing::Test {
     Requete r = b->Prepare(sql);
     return r.Pas() ? r.Entier(0) : -1;
   }
+  static std::string Texte(const std::string& magasin, const std::string& sql) {
+    auto b = OuvreConnexion(magasin);
+    Requete r = b->Prepare(sql);
+    return r.Pas() ? r.Texte(0) : "(no row)";
+  }
 
  private:
   std::filesystem::path dossier_;

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "orvalis/value.h"
@@ -51,8 +52,12 @@ class Recordset {
 // A counted reference to a source, shared with the host; null means "no source".
 using RsRef = std::shared_ptr<Recordset>;
 
-// A new in-memory source with the given columns and no rows.
+// A new in-memory source with the given columns and no rows. A column name is not empty and
+// is one name with no other (see MemeNomDeColonne): a Fault names the first that is not.
 RsRef NouveauRecordset(const std::vector<std::string>& columns);
+
+// Whether a source takes two column names for one: equal but for the case of A to Z.
+bool MemeNomDeColonne(std::string_view a, std::string_view b);
 
 // The source behind a reference; "no source" is a Fault naming it.
 Recordset& Source(const RsRef& rs, const char* name);
