@@ -30,6 +30,21 @@ Json Sortie(const std::string& texte) {
   return Json::parse(i.sortie);
 }
 
+// The case refused with exactly `erreur` and nothing on the output.
+void Refuse(const std::string& texte, const std::string& erreur) {
+  const Issue i = Lance(texte);
+  EXPECT_EQ(i.statut, 2);
+  EXPECT_EQ(i.sortie, "");
+  EXPECT_EQ(i.erreurs, erreur);
+}
+
+// A limit holds: the case at it runs, the case one past it is refused with `erreur`.
+void LimiteTenue(const std::string& dedans, const std::string& dehors, const std::string& erreur) {
+  const Issue i = Lance(dedans);
+  EXPECT_EQ(i.statut, 0) << i.erreurs.substr(0, 200);
+  Refuse(dehors, erreur);
+}
+
 TEST(CaseRunnerTest, OutputHasItsFourKeysInOrder) {
   const Json j = Sortie(R"({"gPeriodeEncours": "01/03/2024"})");
   std::vector<std::string> cles;
@@ -49,11 +64,9 @@ TEST(CaseRunnerTest, DoublesComeBackAsTheSameDouble) {
 }
 
 TEST(CaseRunnerTest, AnErrorPrintsOneLineAndNothingOnTheOutput) {
-  const Issue i = Lance(R"({"steps": [{"set": {"dHeuresMois": 1}},
-                                      {"calc": "MONTANT FIXE", "rubrique": {"dBasee": 1}}]})");
-  EXPECT_EQ(i.statut, 2);
-  EXPECT_EQ(i.sortie, "");
-  EXPECT_EQ(i.erreurs, "steps[1].rubrique.dBasee: SalarieCalculRubrique has no field 'dBasee'\n");
+  Refuse(R"({"steps": [{"set": {"dHeuresMois": 1}},
+                        {"calc": "MONTANT FIXE", "rubrique": {"dBasee": 1}}]})",
+         "steps[1].rubrique.dBasee: SalarieCalculRubrique has no field 'dBasee'\n");
 }
 
 // A row of n keys C0..C(n-1) in gRsConstantes.
@@ -64,11 +77,8 @@ std::string CasAvecLigneDe(int n) {
 }
 
 TEST(CaseRunnerTest, AnObjectOf1024KeysIsReadAndOneMoreIsAnError) {
-  EXPECT_EQ(Lance(CasAvecLigneDe(1024)).statut, 0);
-  const Issue i = Lance(CasAvecLigneDe(1025));
-  EXPECT_EQ(i.statut, 2);
-  EXPECT_EQ(i.sortie, "");
-  EXPECT_EQ(i.erreurs, "sources.gRsConstantes[0].C1024: more than 1024 keys in one object\n");
+  LimiteTenue(CasAvecLigneDe(1024), CasAvecLigneDe(1025),
+              "sources.gRsConstantes[0].C1024: more than 1024 keys in one object\n");
 }
 
 TEST(CaseRunnerTest, Nesting256DeepIsReadAnd257IsAnError) {
@@ -94,14 +104,10 @@ std::string CasAvecTexteDe(std::size_t n) {
 }
 
 TEST(CaseRunnerTest, ATextOf65536BytesIsReadAndOneMoreIsAnError) {
-  EXPECT_EQ(Lance(CasAvecTexteDe(65536)).statut, 0);
-  const Issue i = Lance(CasAvecTexteDe(65537));
-  EXPECT_EQ(i.statut, 2);
-  EXPECT_EQ(i.sortie, "");
-  EXPECT_EQ(i.erreurs, "salarie.sMatricule: a text longer than 65536 bytes\n");
-  const Issue cle = Lance(R"({"salarie": {")" + std::string(65537, 'k') + R"(": 1}})");
-  EXPECT_EQ(cle.statut, 2);
-  EXPECT_EQ(cle.erreurs, "salarie: a key longer than 65536 bytes\n");
+  LimiteTenue(CasAvecTexteDe(65536), CasAvecTexteDe(65537),
+              "salarie.sMatricule: a text longer than 65536 bytes\n");
+  Refuse(R"({"salarie": {")" + std::string(65537, 'k') + R"(": 1}})",
+         "salarie: a key longer than 65536 bytes\n");
 }
 
 // A source gRsConstantes of n rows.
@@ -112,20 +118,15 @@ std::string CasAvecLignes(std::size_t n) {
 }
 
 TEST(CaseRunnerTest, AnArrayOf100000ElementsIsReadAndOneMoreIsAnError) {
-  EXPECT_EQ(Lance(CasAvecLignes(100000)).statut, 0);
-  const Issue i = Lance(CasAvecLignes(100001));
-  EXPECT_EQ(i.statut, 2);
-  EXPECT_EQ(i.sortie, "");
-  EXPECT_EQ(i.erreurs, "sources.gRsConstantes: more than 100000 elements in one array\n");
+  LimiteTenue(CasAvecLignes(100000), CasAvecLignes(100001),
+              "sources.gRsConstantes: more than 100000 elements in one array\n");
 }
 
 TEST(CaseRunnerTest, AnInputOver64MiBIsAnErrorBeforeItIsRead) {
   // Spaces are valid JSON around the object: only the size refuses it.
   std::string texte = "{}";
   texte.resize((std::size_t{64} << 20) + 1, ' ');
-  const Issue i = Lance(texte);
-  EXPECT_EQ(i.statut, 2);
-  EXPECT_EQ(i.erreurs, "case.json: larger than 64 MiB (67108864 bytes)\n");
+  Refuse(texte, "case.json: larger than 64 MiB (67108864 bytes)\n");
   // At the limit the text is read: here it stops at its second byte.
   texte.pop_back();
   texte[1] = 'x';

@@ -1,8 +1,8 @@
 #include "tools/command_line.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <istream>
 #include <ostream>
 
@@ -46,20 +46,12 @@ int Usage(std::ostream& erreurs, const std::string& probleme) {
 }
 
 // Reads at most one byte past the largest case: enough for the case reader to refuse it.
-bool LitFichier(const std::string& chemin, std::string& texte, std::string& erreur) {
-  std::FILE* f = std::fopen(chemin.c_str(), "rb");
-  if (f == nullptr) {
-    erreur = std::strerror(errno);
-    return false;
-  }
+// False when the stream fails other than by ending.
+bool LitBorne(std::istream& entree, std::string& texte) {
   char tampon[65536];
-  std::size_t n;
-  while (texte.size() <= kCasTailleMax && (n = std::fread(tampon, 1, sizeof tampon, f)) > 0)
-    texte.append(tampon, n);
-  const bool ok = !std::ferror(f);
-  if (!ok) erreur = std::strerror(errno);
-  std::fclose(f);
-  return ok;
+  while (texte.size() <= kCasTailleMax && entree.read(tampon, sizeof tampon).gcount() > 0)
+    texte.append(tampon, static_cast<std::size_t>(entree.gcount()));
+  return !entree.bad();
 }
 
 }  // namespace
@@ -88,19 +80,17 @@ int Principal(const std::vector<std::string>& arguments, std::istream& entree,
   const std::string& chemin = arguments[1];
   std::string texte;
   if (chemin == "-") {
-    char tampon[65536];
-    while (texte.size() <= kCasTailleMax && entree.read(tampon, sizeof tampon).gcount() > 0)
-      texte.append(tampon, static_cast<std::size_t>(entree.gcount()));
-    if (entree.bad()) {
+    if (!LitBorne(entree, texte)) {
       erreurs << "-: cannot read standard input\n";
       return 2;
     }
     return LanceCas(texte, "-", sortie, erreurs);
   }
   if (!chemin.empty() && chemin[0] == '-') return Usage(erreurs, "unknown option '" + chemin + "'");
-  std::string erreur;
-  if (!LitFichier(chemin, texte, erreur)) {
-    erreurs << chemin << ": cannot read: " << erreur << '\n';
+  errno = 0;
+  std::ifstream fichier(chemin, std::ios::binary);
+  if (!fichier.is_open() || !LitBorne(fichier, texte)) {
+    erreurs << chemin << ": cannot read: " << std::strerror(errno != 0 ? errno : EIO) << '\n';
     return 2;
   }
   return LanceCas(texte, chemin, sortie, erreurs);
