@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets with clang under AddressSanitizer and UndefinedBehaviorSanitizer
-# and runs each for a short time, from its seeds and kept findings. A crash, a sanitizer
-# report, a leak or a hang fails the run; the input that did it is left in
-# build-fuzz/artefacts/ (minimise it with `-minimize_crash=1` and keep it in
-# fuzz/regression/NAME/ once fixed).
+# and runs each for a short time, from its seeds and kept findings, as many side by side as
+# the machine has cores. A crash, a sanitizer report, a leak or a hang fails the run; the
+# input that did it is left in build-fuzz/artefacts/ (minimise it with `-minimize_crash=1`
+# and keep it in fuzz/regression/NAME/ once fixed).
 #
 #   ORVALIS_FUZZ_SECONDS  seconds per target (default 25)
 #   ORVALIS_FUZZ_TARGETS  targets to run (default: all)
@@ -29,18 +29,40 @@ for c in $cibles; do cibles_build+=(--target "fuzz_$c"); done
 cmake --build build-fuzz -j"$jobs" "${cibles_build[@]}"
 
 mkdir -p build-fuzz/artefacts
-for c in $cibles; do
-  travail=build-fuzz/travail/$c
-  mkdir -p "$travail"
-  echo "fuzz: $c for ${secondes}s"
+# One target's run, its report in its log.
+lance() {
+  local c=$1
+  mkdir -p "build-fuzz/travail/$c"
   ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 \
     "build-fuzz/fuzz/fuzz_$c" -max_total_time="$secondes" -timeout=30 -rss_limit_mb=2048 \
       -print_final_stats=1 -artifact_prefix="build-fuzz/artefacts/$c-" \
-      "$travail" "fuzz/corpus/$c" "fuzz/regression/$c" 2>"build-fuzz/fuzz_$c.log" || {
-    tail -40 "build-fuzz/fuzz_$c.log"
-    echo "fuzz: $c found a fault, see build-fuzz/fuzz_$c.log and build-fuzz/artefacts/"
-    exit 1
-  }
-  grep -E '^stat::(number_of_executed_units|average_exec_per_sec)' "build-fuzz/fuzz_$c.log" | tr '\n' ' '
-  echo
+      "build-fuzz/travail/$c" "fuzz/corpus/$c" "fuzz/regression/$c" 2>"build-fuzz/fuzz_$c.log"
+}
+
+# The targets run side by side, as many at once as the machine has cores; a fault in any
+# fails the step once the others of its batch have ended.
+set -- $cibles
+while [ $# -gt 0 ]; do
+  lot=()
+  while [ $# -gt 0 ] && [ ${#lot[@]} -lt "$jobs" ]; do lot+=("$1"); shift; done
+  pids=()
+  for c in "${lot[@]}"; do
+    echo "fuzz: $c for ${secondes}s"
+    lance "$c" &
+    pids+=($!)
+  done
+  faute=0
+  for k in "${!lot[@]}"; do
+    c=${lot[$k]}
+    if wait "${pids[$k]}"; then
+      echo -n "fuzz: $c: "
+      grep -E '^stat::(number_of_executed_units|average_exec_per_sec)' "build-fuzz/fuzz_$c.log" | tr '\n' ' '
+      echo
+    else
+      tail -40 "build-fuzz/fuzz_$c.log"
+      echo "fuzz: $c found a fault, see build-fuzz/fuzz_$c.log and build-fuzz/artefacts/"
+      faute=1
+    fi
+  done
+  [ $faute = 0 ] || exit 1
 done
