@@ -16,6 +16,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/setup.sh
 
+# Each step says when it starts, in minutes:seconds since the run began.
+etape() { printf 'test: %s at %d:%02d\n' "$1" $((SECONDS / 60)) $((SECONDS % 60)); }
 jobs=$(nproc 2>/dev/null || echo 2)
 
 # A compiler cache, when the machine has one, makes a second run cost only what changed.
@@ -25,12 +27,14 @@ if command -v ccache >/dev/null 2>&1; then
   cache=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_C_COMPILER_LAUNCHER=ccache)
 fi
 
+etape "the build for the hosts"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo "${cache[@]}"
 cmake --build build -j"$jobs"
 ctest --test-dir build --output-on-failure -j"$jobs"
 
 # The Python module, linked with the library just built, installed as a host installs it in
 # a fresh environment over Debian's interpreter (which carries pybind11 and pytest).
+etape "the Python module"
 venv=build/python-venv
 /usr/bin/python3 -m venv --clear --system-site-packages "$venv"
 ORVALIS_BUILD_DIR="$PWD/build" CMAKE_BUILD_PARALLEL_LEVEL="$jobs" \
@@ -43,6 +47,7 @@ case $pytest_status in
   *) echo "pytest: status $pytest_status" >&2; exit 1 ;;
 esac
 
+etape "the sanitizer and coverage build"
 cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DORVALIS_SANITIZE=ON -DORVALIS_COVERAGE=ON \
   -DORVALIS_BENCHMARKS=OFF "${cache[@]}"
 cmake --build build-sanitize -j"$jobs"
@@ -56,9 +61,12 @@ unset ASAN_OPTIONS UBSAN_OPTIONS
 
 # The threads' tests once more under ThreadSanitizer (a third build of the engine).
 if [ "${ORVALIS_TSAN:-1}" != 0 ]; then
+  etape "the ThreadSanitizer build"
   ./scripts/tsan.sh "${cache[@]}"
 fi
 
 if [ "${ORVALIS_FUZZ_SECONDS:-25}" != 0 ]; then
+  etape "the fuzz step"
   ./scripts/fuzz.sh
 fi
+etape "done"
