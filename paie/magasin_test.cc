@@ -148,6 +148,17 @@ TEST_P(MagasinTest, MauvaisTypeDansUneSituation) {
                           ", column 'valeur': dIndiceMajoreM needs a number, got the text 'quatre cents'");
 }
 
+// A text of the store with a line end, a tab or a control character: the refusal stays one
+// line, the characters written as in C.
+TEST_P(MagasinTest, TexteAvecFinDeLigneDansUnRefus) {
+  const std::string c = Commune(1);
+  Sql(c, "UPDATE situations SET valeur = 'quatre\ncents\t\x01' WHERE champ = 'dIndiceMajoreM'");
+  const long long ligne = Nombre(c, "SELECT rowid FROM situations WHERE champ = 'dIndiceMajoreM'");
+  EXPECT_EQ(Refus(c), "table 'situations', row " + std::to_string(ligne) +
+                          ", column 'valeur': dIndiceMajoreM needs a number, got the text "
+                          "'quatre\\ncents\\t\\x01'");
+}
+
 TEST_P(MagasinTest, EntierSeizeBitsHorsLimites) {
   const std::string c = Commune(1);
   Sql(c, "UPDATE situations SET valeur = 32768 WHERE champ = 'iEnfant_ACharge'");
@@ -374,6 +385,16 @@ TEST_P(MagasinTest, TextesPiegesGardesTelsQuels) {
   ASSERT_NE(Ligne(r.bulletins[0], "TRAITIND"), nullptr);
   EXPECT_EQ(Ligne(r.bulletins[0], "TRAITIND")->sDesignation, designation);
   EXPECT_TRUE(OuvreConnexion(c)->TableExiste("lignes"));
+}
+
+TEST(MessageSurUneLigneTest, CaracteresDeControleEcritsCommeEnC) {
+  EXPECT_EQ(MessageSurUneLigne(""), "");
+  EXPECT_EQ(MessageSurUneLigne("table 'taux' is missing"), "table 'taux' is missing");
+  EXPECT_EQ(MessageSurUneLigne("a\nb\tc\rd"), "a\\nb\\tc\\rd");
+  EXPECT_EQ(MessageSurUneLigne(std::string("\x00\x1f\x7f ~", 5)), "\\x00\\x1f\\x7f ~");
+  // Letters past ASCII are kept as they are (UTF-8 bytes are all 0x80 and over).
+  EXPECT_EQ(MessageSurUneLigne("d\xc3\xa9j\xc3\xa0"), "d\xc3\xa9j\xc3\xa0");
+  EXPECT_EQ(ErreurMagasin("x\ny").what(), std::string("x\\ny"));
 }
 
 TEST(CleMoisTest, Formes) {

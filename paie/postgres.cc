@@ -26,8 +26,19 @@ struct LibereResultat {
 };
 using Resultat = std::unique_ptr<PGresult, LibereResultat>;
 
-std::string SansFinDeLigne(std::string s) {
-  while (!s.empty() && (s.back() == '\n' || s.back() == ' ')) s.pop_back();
+// A message of libpq or the server on one line: its lines joined by a space, its hints'
+// tabs and the line end dropped.
+std::string EnUneLigne(const std::string& message) {
+  std::string s;
+  for (std::size_t i = 0; i < message.size(); ++i) {
+    if (message[i] != '\n') {
+      s += message[i];
+      continue;
+    }
+    while (i + 1 < message.size() && (message[i + 1] == '\t' || message[i + 1] == ' ')) ++i;
+    if (!s.empty() && s.back() != ' ') s += ' ';
+  }
+  while (!s.empty() && s.back() == ' ') s.pop_back();
   return s;
 }
 
@@ -295,7 +306,7 @@ BasePg::BasePg(const std::string& adresse, const std::string& application)
   conn_ = PQconnectdbParams(mots, valeurs, 1);
   if (conn_ == nullptr) throw ErreurConnexion("cannot connect to PostgreSQL: out of memory");
   if (PQstatus(conn_) != CONNECTION_OK) {
-    const std::string m = SansFinDeLigne(PQerrorMessage(conn_));
+    const std::string m = EnUneLigne(PQerrorMessage(conn_));
     PQfinish(conn_);
     conn_ = nullptr;
     const std::string ou = affichee_.empty() ? "PostgreSQL (from the environment)" : affichee_;
@@ -316,7 +327,7 @@ void BasePg::Echec(const std::string& quoi, const void* resultat) {
     m = primaire ? primaire : PQresultErrorMessage(r);
   }
   if (m.empty()) m = PQerrorMessage(conn_);
-  m = SansMotDePasse(quoi + ": " + SansFinDeLigne(m), adresse_);
+  m = SansMotDePasse(quoi + ": " + EnUneLigne(m), adresse_);
   if (PQstatus(conn_) != CONNECTION_OK) throw ErreurConnexion(m);
   const char* etat = r ? PQresultErrorField(r, PG_DIAG_SQLSTATE) : nullptr;
   // No SQLSTATE: libpq's own failure (the server closed the connection, no result at all).

@@ -4,6 +4,26 @@
 
 namespace orvalis::paie {
 
+std::string MessageSurUneLigne(const std::string& message) {
+  static constexpr char kHex[] = "0123456789abcdef";
+  std::string s;
+  s.reserve(message.size());
+  for (const char c : message) {
+    const auto u = static_cast<unsigned char>(c);
+    if (u >= 0x20 && u != 0x7f) {
+      s += c;
+      continue;
+    }
+    switch (c) {
+      case '\n': s += "\\n"; break;
+      case '\t': s += "\\t"; break;
+      case '\r': s += "\\r"; break;
+      default: s += {'\\', 'x', kHex[u >> 4], kHex[u & 0xf]};
+    }
+  }
+  return s;
+}
+
 Requete& Requete::Lie(int i, const Value& v) {
   if (v.EstNull()) return LieNull(i);
   if (v.EstTexte()) return Lie(i, v.Chaine());

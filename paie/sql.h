@@ -14,15 +14,19 @@
 
 namespace orvalis::paie {
 
-// A store that cannot be read or written as asked: the message names the table, row and
-// column when there is one, else the store.
+// The message on one line, as a run prints it: a control character (a store's text may hold
+// any) is written as C writes it in a string, "\n", "\t", "\r" or "\x1f".
+std::string MessageSurUneLigne(const std::string& message);
+
+// A store that cannot be read or written as asked: the message, one line, names the table, row
+// and column when there is one, else the store.
 class ErreurMagasin : public std::runtime_error {
  public:
   // What stopped the run: what was asked or what the store holds (the input), or the store
   // as the system lets it be used now (locked, full, read-only, failing, unreachable).
   enum class Cause { Donnees, Acces };
   explicit ErreurMagasin(const std::string& message, Cause cause = Cause::Donnees)
-      : std::runtime_error(message), cause_(cause) {}
+      : std::runtime_error(MessageSurUneLigne(message)), cause_(cause) {}
   Cause cause() const { return cause_; }
 
  private:
